@@ -1,0 +1,9 @@
+# The warnings every target is built with, and the sanitizers when asked for.
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(XTTML_WARNINGS_AS_ERRORS)
+  add_compile_options(-Werror)
+endif()
+if(XTTML_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

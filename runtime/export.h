@@ -1,0 +1,7 @@
+/* Marks what the shared library exports; everything else is hidden. Readable by C and C++. */
+#ifndef XTTML_RUNTIME_EXPORT_H
+#define XTTML_RUNTIME_EXPORT_H
+
+#define XTTML_API __attribute__((visibility("default")))
+
+#endif
