@@ -10,8 +10,7 @@
 
 /// Runs `action` and returns all it wrote to standard output. An exception ends the capture and passes on.
 template <class Action>
-std::string CapturedOutput(Action&& action)
-{
+std::string CapturedOutput(Action&& action) {
     std::cout.flush();
     testing::internal::CaptureStdout();
     try {

@@ -1,0 +1,79 @@
+#include "parser/ttml_parser.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+bool fgSharesTimes(const DisplayItem& item, const DisplayItem& other) {
+    return item.iGetBeginTime() == other.iGetBeginTime() && item.iGetEndTime() == other.iGetEndTime();
+}
+
+void vMergeContent(TextItem& target, const TextItem& source) {
+    target.vecContent.push_back(u'\n');
+    target.vecContent.insert(target.vecContent.end(), source.vecContent.begin(), source.vecContent.end());
+    target.fgCombined = true;
+}
+
+} // namespace
+
+std::optional<std::size_t> TtmlParser::rFindByTime(std::uint32_t uTime) const {
+    const auto fgOnScreen = [uTime](const DisplayItem* pItem) {
+        return pItem->fgCheckTimeInfo(static_cast<std::int32_t>(uTime));
+    };
+    const auto fgLater = [uTime](const DisplayItem* pItem) {
+        return static_cast<std::uint32_t>(pItem->iGetBeginTime()) > uTime;
+    };
+    const auto first = vecDisplaySequence_.begin();
+    const auto last = vecDisplaySequence_.end();
+    auto found = std::find_if(first, last, fgOnScreen);
+    if (found == last)
+        found = std::find_if(first, last, fgLater);
+    if (found == last)
+        return std::nullopt;
+    return static_cast<std::size_t>(found - first);
+}
+
+DisplayItem* TtmlParser::rGetDisplayItemByTime(std::uint32_t uTime) {
+    const std::optional<std::size_t> uFound = rFindByTime(uTime);
+    uCurrentIndex_ = static_cast<std::uint32_t>(uFound.value_or(0));
+    return uFound ? vecDisplaySequence_[*uFound] : nullptr;
+}
+
+void TtmlParser::vGetDisplayItemArrayByTime(DisplayItem** ppItems, std::uint32_t uTime) const {
+    constexpr std::size_t uSlots = 4;
+    std::fill_n(ppItems, uSlots, nullptr);
+    const std::optional<std::size_t> uAnchor = rFindByTime(uTime);
+    if (!uAnchor)
+        return;
+    const DisplayItem& anchor = *vecDisplaySequence_[*uAnchor];
+    const std::size_t uEnd = std::min(*uAnchor + uSlots, vecDisplaySequence_.size());
+    for (std::size_t i = *uAnchor; i < uEnd && fgSharesTimes(*vecDisplaySequence_[i], anchor); ++i)
+        ppItems[i - *uAnchor] = vecDisplaySequence_[i];
+}
+
+DisplayItem* TtmlParser::rCombineSameTimeItem() {
+    if (uCurrentIndex_ >= vecDisplaySequence_.size())
+        return nullptr;
+    DisplayItem* const pCurrent = vecDisplaySequence_[uCurrentIndex_];
+    auto* const pText = dynamic_cast<TextItem*>(pCurrent);
+    if (!pText || pText->fgCombined)
+        return pCurrent;
+    for (std::size_t i = uCurrentIndex_ + 1; i < vecDisplaySequence_.size(); ++i) {
+        const DisplayItem* const pNext = vecDisplaySequence_[i];
+        if (!fgSharesTimes(*pNext, *pCurrent))
+            break;
+        if (const auto* pNextText = dynamic_cast<const TextItem*>(pNext))
+            vMergeContent(*pText, *pNextText);
+    }
+    return pCurrent;
+}
+
+void TtmlParser::vClearDisplaySequence() {
+    for (DisplayItem*& pItem : vecDisplaySequence_) {
+        delete pItem;
+        pItem = nullptr;
+    }
+    vecDisplaySequence_.clear();
+    vecEarlierBuffers_.clear();
+}

@@ -1,0 +1,128 @@
+#include "parser/ttml_parser.h"
+#include "style/attribute_reading.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+
+using namespace ttaf1_dfxp::tt;
+
+namespace {
+
+constexpr std::uint8_t pngSignature[] = {0x89, 'P', 'N', 'G'};
+constexpr std::size_t uSignatureSize = sizeof pngSignature;
+
+// "urn:dece:container:subtitleimageindex:" comes before the index; it is not looked at.
+constexpr std::size_t uIndexPosition = 38;
+constexpr std::uint32_t uNoIndex = UINT32_MAX;
+
+/// The first signature that begins in [pBegin, pEnd); pEnd when there is none. A signature that the block's
+/// end cuts off does not count.
+const std::uint8_t* pFindSignature(const std::uint8_t* pBegin, const std::uint8_t* pEnd) {
+    while (static_cast<std::size_t>(pEnd - pBegin) >= uSignatureSize) {
+        const auto uCandidates = static_cast<std::size_t>(pEnd - pBegin) - uSignatureSize + 1;
+        const auto* const pFound =
+            static_cast<const std::uint8_t*>(std::memchr(pBegin, pngSignature[0], uCandidates));
+        if (!pFound)
+            break;
+        if (std::memcmp(pFound, pngSignature, uSignatureSize) == 0)
+            return pFound;
+        pBegin = pFound + 1;
+    }
+    return pEnd;
+}
+
+} // namespace
+
+void TtmlParser::vGenerateImageDisplaySequence(int iOffset) {
+    const std::optional<Cbody_eltype> body = rFindBodyWithDivision();
+    if (!body)
+        return;
+    aImageTable_.fill({});
+    if (vecDocumentBuffer_.empty())
+        return;
+    vGeneratePNGBufferInfo();
+    vReadRootExtent();
+    vGenerateRegionAttribSequence();
+    vGenerateStyleAttribSequence();
+    auto itrDivision = body->div.all();
+    for (; itrDivision.CurrentNode(); ++itrDivision)
+        vGetImageItem(itrDivision, iOffset);
+    vResetDocumentTime();
+    for (const DisplayItem* pItem : vecDisplaySequence_)
+        vExtendDocumentTime(*pItem);
+    vWriteDocumentTime();
+}
+
+void TtmlParser::vGeneratePNGBufferInfo() {
+    if (vecDocumentBuffer_.empty()) {
+        std::cout << "Invalid PNG Buffer" << std::endl;
+        return;
+    }
+    aImageTable_.fill({});
+    const std::uint8_t* pStart = vecDocumentBuffer_.data();
+    // The stored size may be 0 or below while an older block is held: then there is nothing to cut.
+    const std::uint8_t* const pEnd = pStart + std::max(iDocumentBufferSize_, 0);
+    if (pStart == pEnd) {
+        aImageTable_[0] = {pStart, iDocumentBufferSize_};
+        return;
+    }
+    for (ImageTableEntry& entry : aImageTable_) {
+        const auto uSkipped = std::min<std::ptrdiff_t>(uSignatureSize, pEnd - pStart);
+        const std::uint8_t* const pNext = pFindSignature(pStart + uSkipped, pEnd);
+        entry = {pStart, static_cast<std::int32_t>(pNext - pStart)};
+        if (pNext == pEnd)
+            return;
+        pStart = pNext;
+    }
+}
+
+std::uint32_t TtmlParser::uGetImageIndex(const std::string& strReference) {
+    const std::size_t uPoint = strReference.rfind('.');
+    if (strReference.size() <= uIndexPosition || uPoint == std::string::npos || uPoint <= uIndexPosition)
+        return uNoIndex;
+    const long iIndex = std::strtol(strReference.c_str() + uIndexPosition, nullptr, 10);
+    return static_cast<std::uint32_t>(std::clamp<long>(iIndex, INT_MIN, INT_MAX));
+}
+
+void TtmlParser::vGetImageItem(Cdiv_eltype division, int iOffset) {
+    const TimeRates rates = rReadTimeRates();
+    if (division.backgroundImage.exists()) {
+        vAppendImage(division, rates, iOffset, false);
+        return;
+    }
+    auto itrChild = division.div.all();
+    for (; itrChild.CurrentNode(); ++itrChild) {
+        if (itrChild.backgroundImage.exists())
+            vAppendImage(itrChild, rates, iOffset, true);
+    }
+}
+
+void TtmlParser::vAppendImage(const Cdiv_eltype& division, const TimeRates& rates, int iOffset,
+                              bool fgReadForced) {
+    const std::uint32_t uIndex = uGetImageIndex(division.backgroundImage);
+    if (uIndex < 1 || uIndex > aImageTable_.size())
+        return;
+    const ImageTableEntry& image = aImageTable_[uIndex - 1];
+    auto item = std::make_unique<ImageItem>(image.pData, image.iSize);
+    const std::int32_t iBegin = iGetTimeFromString(division.begin, rates.iFrameRate, rates.fTickRate);
+    const std::int32_t iEnd = iGetTimeFromString(division.end, rates.iFrameRate, rates.fTickRate);
+    item->vSetTime(iShifted(iBegin, iOffset), iShifted(iEnd, iOffset));
+    prReadRegion(division.region.value(), item->styling);
+    const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
+    vReadGeometry(division, PairOutcome::UNCHANGED, area, item->styling);
+    if (fgReadForced)
+        fgRead(division.forcedDisplayMode, [&](bool fgForced) { item->fgForcedDisplay = fgForced; });
+    vAppend(std::move(item));
+}
+
+bool TtmlParser::fgItemsUseDocumentBuffer() const {
+    const std::uint8_t* const pBegin = vecDocumentBuffer_.data();
+    const std::uint8_t* const pEnd = pBegin + vecDocumentBuffer_.size();
+    return std::any_of(vecDisplaySequence_.begin(), vecDisplaySequence_.end(), [&](const DisplayItem* pItem) {
+        const auto* const pImage = dynamic_cast<const ImageItem*>(pItem);
+        return pImage && pImage->pImageData >= pBegin && pImage->pImageData < pEnd;
+    });
+}

@@ -1,0 +1,47 @@
+#include "style/style_tables.h"
+
+#include <algorithm>
+#include <utility>
+
+const StylingAttribGroup* StylingTable::prFind(const std::string& strId) const {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const StylingAttribGroup& entry) { return entry.strId == strId; });
+    return found == entries_.end() ? nullptr : &*found;
+}
+
+const StylingAttrib* StylingTable::prGetByID(const std::string& strId) const {
+    const StylingAttribGroup* const pEntry = prFind(strId);
+    return pEntry ? &pEntry->attrib : nullptr;
+}
+
+StylingAttribGroup StylingTable::rGetByID(const std::string& strId) const {
+    const StylingAttribGroup* const pEntry = prFind(strId);
+    return pEntry ? *pEntry : StylingAttribGroup();
+}
+
+void StylingTable::vAppend(StylingAttribGroup group) {
+    entries_.push_back(std::move(group));
+}
+
+void StyleTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root) {
+    auto itrStyle = root.head.first().styling.first().style.all();
+    for (; itrStyle.CurrentNode(); ++itrStyle) {
+        StylingAttribGroup group;
+        fgReadText(itrStyle.id, group.strId);
+        vReadStyling(itrStyle, styleRules, group.attrib);
+        vAppend(std::move(group));
+    }
+}
+
+void RegionTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root, const Extent& rootExtent) {
+    auto itrRegion = root.head.first().layout.first().region.all();
+    for (; itrRegion.CurrentNode(); ++itrRegion) {
+        StylingAttribGroup group;
+        group.attrib.uExtentWidth = rootExtent.uWidth;
+        group.attrib.uExtentHeight = rootExtent.uHeight;
+        fgReadText(itrRegion.id, group.strId);
+        vReadGeometry(itrRegion, PairOutcome::ZERO, rootExtent, group.attrib);
+        vReadStyling(itrRegion, regionRules, group.attrib);
+        vAppend(std::move(group));
+    }
+}

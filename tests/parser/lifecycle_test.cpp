@@ -1,0 +1,120 @@
+#include "tests/parser/loaded_parser.h"
+#include "tests/support/temporary_file.h"
+
+namespace {
+
+using Lifecycle = LoadedParser;
+
+constexpr char loadingLines[] =
+    "loadFromFile called!\nLoadFromFile called in ttaf1_dfxp\n"
+    "XercesTreeOperations::LoadDocument called!\ndeclare parser OK\nparser Created OK\n"
+    "defaultHandler Created OK\nsetErrorHandler OK\nsetDoNamespaces OK\nparse OK\n"
+    "adoptDocument OK\nloadFromFile finished!\n";
+
+std::string strCloseLines() {
+    return "Close Document!\nDocument Closed!\n";
+}
+
+TEST_F(Lifecycle, LoadsFromAPath) {
+    const struct {
+        std::string text;
+        bool fgLoaded;
+        const char* line;
+    } cases[] = {
+        {strDocument("", ""), true, "load from file ok\n"},
+        {"<o:tt xmlns:o='urn:other'/>", true, "load from file ok\n"},
+        {"<div/>", false, "load from file failed\n"},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.text);
+        const TemporaryFile file(test.text);
+        bool fgLoaded = !test.fgLoaded;
+        EXPECT_EQ(CapturedOutput([&] { fgLoaded = parser.fgLoadDocument(file.path.c_str()); }),
+                  std::string(loadingLines) + test.line);
+        EXPECT_EQ(fgLoaded, test.fgLoaded);
+        EXPECT_EQ(CapturedOutput([&] { parser.vCloseDocument(); }), strCloseLines());
+        EXPECT_EQ(CapturedOutput([&] { parser.vCloseDocument(); }), strCloseLines());
+        xercesc::XMLPlatformUtils::Terminate();
+    }
+}
+
+TEST_F(Lifecycle, AFailedLoadKeepsWhatWasHeld) {
+    ASSERT_TRUE(fgLoad(strDocument("xml:lang='fr'", "")));
+    const TemporaryFile malformed("<tt>");
+    for (const std::string& strPath :
+         {malformed.path, malformed.path + ".missing", std::string("/"), std::string()}) {
+        EXPECT_THROW(CapturedOutput([&] { parser.fgLoadDocument(strPath.c_str()); }),
+                     tessera::DataSourceUnavailableException)
+            << strPath;
+        xercesc::XMLPlatformUtils::Terminate();
+    }
+    EXPECT_THROW(CapturedOutput([&] { parser.fgLoadDocument(nullptr); }),
+                 tessera::DataSourceUnavailableException);
+    xercesc::XMLPlatformUtils::Terminate();
+    EXPECT_EQ(parser.strGetDocLanguage(), "fr");
+    bool fgLoaded = true;
+    const std::string strLine = CapturedOutput([&] { fgLoaded = parser.fgLoadDocument("<tt>", 4U); });
+    EXPECT_FALSE(fgLoaded);
+    EXPECT_EQ(strLine.rfind("Xerces SAX error while loading: ", 0), 0U) << strLine;
+    EXPECT_EQ(strLine.find('\n'), strLine.size() - 1);
+    EXPECT_EQ(parser.strGetDocLanguage(), "fr");
+}
+
+TEST_F(Lifecycle, LoadsFromMemory) {
+    const std::string strText = strDocument("xml:lang='en'", "");
+    const std::string strUtf16 = {'\xFF', '\xFE', '<', 0, 't', 0, 't', 0, '/', 0, '>', 0};
+    const struct {
+        std::string_view bytes;
+        bool fgLoaded;
+        const char* output;
+    } cases[] = {
+        {strText, true, "load from file ok\n"},
+        {strUtf16, true, "load from file ok\n"},
+        {"<div/>", false, "load from file failed\n"},
+    };
+    for (const auto& test : cases) {
+        bool fgLoaded = !test.fgLoaded;
+        EXPECT_EQ(CapturedOutput([&] {
+                      fgLoaded =
+                          parser.fgLoadDocument(test.bytes.data(), static_cast<unsigned>(test.bytes.size()));
+                  }),
+                  test.output);
+        EXPECT_EQ(fgLoaded, test.fgLoaded);
+        CapturedOutput([&] { parser.vCloseDocument(); });
+    }
+    for (const void* pData : {static_cast<const void*>(""), static_cast<const void*>(nullptr)}) {
+        bool fgLoaded = true;
+        CapturedOutput([&] { fgLoaded = parser.fgLoadDocument(pData, pData ? 0U : 100U); });
+        EXPECT_FALSE(fgLoaded);
+    }
+}
+
+TEST_F(Lifecycle, ReadsTheLanguage) {
+    EXPECT_EQ(parser.strGetDocLanguage(), "INVALID");
+    ASSERT_TRUE(fgLoad(strDocument("lang='de'", "")));
+    EXPECT_EQ(parser.strGetDocLanguage(), "INVALID");
+    ASSERT_TRUE(fgLoad(strDocument("xml:lang=''", "")));
+    EXPECT_EQ(parser.strGetDocLanguage(), "");
+}
+
+TEST_F(Lifecycle, ItemsOutliveTheDocument) {
+    vGenerateText("<p begin='1s' end='2s'>text</p>");
+    CapturedOutput([&] { parser.vCloseDocument(); });
+    EXPECT_EQ(Describe(*parser.rGetDisplayItemByTime(1500)), "[1000,2000] w=1024 h=768 |'text'");
+}
+
+TEST_F(Lifecycle, AnnouncesItsEndAndTheXmlLibrary) {
+    auto pOther = std::make_unique<TtmlParser>();
+    EXPECT_EQ(CapturedOutput([&] { pOther.reset(); }), "destruct Parser\n");
+    EXPECT_EQ(CapturedOutput([] { TtmlParser::vXercesInit(); }), "Initialize Xerces\n");
+    EXPECT_EQ(CapturedOutput([] { TtmlParser::vXercesTerminate(); }), "Terminate Xerces\n");
+}
+
+TEST(LifecycleWithoutXmlLibrary, ALoadFromMemoryFails) {
+    TtmlParser parser;
+    bool fgLoaded = true;
+    CapturedOutput([&] { fgLoaded = parser.fgLoadDocument("<tt/>", 5U); });
+    EXPECT_FALSE(fgLoaded);
+}
+
+} // namespace

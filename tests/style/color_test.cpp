@@ -1,0 +1,99 @@
+#include "style/color.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+
+namespace {
+
+struct ColorCase {
+    const char* text;
+    const char* normalised;
+    RgbaColor color;
+};
+
+constexpr RgbaColor white = {255, 255, 255, 255};
+
+const ColorCase colorCases[] = {
+    {"#12345678", "#12345678", {18, 52, 86, 120}},
+    {"#abCDef00", "#abCDef00", {171, 205, 239, 0}},
+    {"#FFF", "#FFFFFFFF", white},
+    {"#", "#FFFFFFFF", white},
+    {"#1234567g", "#1234567g", white},
+    {"#ZZZZZZZZ", "#ZZZZZZZZ", white},
+    {"rgb(255,0,0)", "#FF0000FF", {255, 0, 0, 255}},
+    {"rgba(0,0,0,128)", "#00000080", {0, 0, 0, 128}},
+    {"rgba(1,22,173,0)", "#0116AD00", {1, 22, 173, 0}},
+    {"rgb is (1,2,3) here", "#010203FF", {1, 2, 3, 255}},
+    {"rgb(,,)", "#000000FF", {0, 0, 0, 255}},
+    {"rgba(,,,)", "#00000000", {0, 0, 0, 0}},
+    {"rgb(255, 0, 0)", "#FFFFFFFF", white},
+    {"rgb(256,0,0)", "#FFFFFFFF", white},
+    {"rgb(4294967296,0,0)", "#FFFFFFFF", white},
+    {"rgb(99999999999999999999,0,0)", "#FFFFFFFF", white},
+    {"rgb(-1,0,0)", "#FFFFFFFF", white},
+    {"rgb(1,2)", "#FFFFFFFF", white},
+    {"rgba(1,2,3)", "#FFFFFFFF", white},
+    {"rgb(1,2,3,4)", "#FFFFFFFF", white},
+    {"rgb)1,2,3(", "#FFFFFFFF", white},
+    {"rgb(1,2,3", "#FFFFFFFF", white},
+    {"rgb(1,2),3", "#FFFFFFFF", white},
+    {"rgb", "#FFFFFFFF", white},
+    {"RGB(1,2,3)", "#FFFFFFFF", white},
+    {"Red", "#FFFFFFFF", white},
+    {" red", "#FFFFFFFF", white},
+    {"", "#FFFFFFFF", white},
+    {"transparent", "#00000000", {0, 0, 0, 0}},
+    {"yellow", "#FFFF00FF", {255, 255, 0, 255}},
+    {"fuchsia", "#FF00FFFF", {255, 0, 255, 255}},
+    {"cyan", "#00FFFFFF", {0, 255, 255, 255}},
+};
+
+bool operator==(const RgbaColor& a, const RgbaColor& b) {
+    return a.uRed == b.uRed && a.uGreen == b.uGreen && a.uBlue == b.uBlue && a.uAlpha == b.uAlpha;
+}
+
+TEST(Color, NormalisesAndMaps) {
+    for (const ColorCase& test : colorCases) {
+        SCOPED_TRACE(test.text);
+        std::string strText = test.text;
+        EXPECT_EQ(strFormatColor(strText), test.normalised);
+        EXPECT_EQ(strText, test.text);
+        EXPECT_TRUE(rMapColor(strText) == test.color);
+    }
+}
+
+TEST(Color, GivesSixDigitsTheirAlphaInPlace) {
+    std::string strText = "#ff8000";
+    EXPECT_EQ(strFormatColor(strText), "#ff8000FF");
+    EXPECT_EQ(strText, "#ff8000FF");
+    std::string strAgain = "#ff8000";
+    EXPECT_TRUE(rMapColor(strAgain) == (RgbaColor{255, 128, 0, 255}));
+    EXPECT_EQ(strAgain, "#ff8000FF");
+}
+
+TEST(Color, ReadsDigitsInARange) {
+    struct {
+        const char* text;
+        int iFirst, iLast;
+        bool fgDigits;
+        int iValue;
+    } const cases[] = {
+        {"12a", 0, 2, false, 255},
+        {"12a", 0, 1, true, 12},
+        {"12a", 3, 2, true, 0},
+        {"x045", 1, 3, true, 45},
+        {"12", 0, 2, false, 255},
+        {"12", -1, 1, false, 255},
+        {"99999999999", 0, 10, true, INT_MAX},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.text);
+        int iValue = -1;
+        EXPECT_EQ(fgConvertStrToInt(test.text, test.iFirst, test.iLast, iValue), test.fgDigits);
+        EXPECT_EQ(iValue, test.iValue);
+    }
+}
+
+} // namespace

@@ -1,0 +1,75 @@
+#include "style/styling_attrib.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(StylingAttrib, StartsWithTheDefaults) {
+    const StylingAttrib attrib;
+    EXPECT_EQ(attrib.strBackgroundColor, "transparent");
+    EXPECT_EQ(attrib.strColor, "#FFFFFFFF");
+    EXPECT_EQ(attrib.strReserved1, "1.0");
+    EXPECT_EQ(attrib.strReserved2 + attrib.strReserved3 + attrib.strReserved4 + attrib.strReserved5, "");
+    EXPECT_EQ(attrib.uExtentWidth | attrib.uExtentHeight | attrib.uOriginX | attrib.uOriginY, 0U);
+    EXPECT_EQ(attrib.uFontSize | attrib.uLineHeight | attrib.uReserved4 | attrib.uReserved6, 0U);
+    for (const ReservedPair& pair : attrib.aReservedPairs)
+        EXPECT_EQ(pair.uFirst | pair.uSecond, 0U);
+    EXPECT_FALSE(attrib.fgColorSet || attrib.fgFontSizeSet || attrib.fgDisplayAlignSet);
+}
+
+TEST(StylingAttrib, CopiesReservedFieldsAndFlagsAndSharesNothing) {
+    StylingAttrib source;
+    source.strReserved5 = "kept";
+    source.aReservedPairs[3].uSecond = 7;
+    source.fgReserved2 = true;
+    source.fgColorSet = true;
+    StylingAttrib copy = source;
+    copy.strColor = "red";
+    copy.aReservedPairs[3].uSecond = 8;
+    EXPECT_EQ(copy.strReserved5, "kept");
+    EXPECT_TRUE(copy.fgReserved2 && copy.fgColorSet);
+    EXPECT_EQ(source.strColor, "#FFFFFFFF");
+    EXPECT_EQ(source.aReservedPairs[3].uSecond, 7U);
+}
+
+TEST(StylingAttrib, ConvertsKeywords) {
+    struct {
+        const char* text;
+        int iDisplayAlign, iTextAlign, iTextDecoration, iFontStyle, iFontWeight, iVisibility;
+    } const cases[] = {
+        {"before", 0, 3, 0, 0, 0, 0},
+        {"center", 1, 1, 0, 0, 0, 0},
+        {"after", 2, 3, 0, 0, 0, 0},
+        {"CENTER", 0, 3, 0, 0, 0, 0},
+        {"left", 0, 0, 0, 0, 0, 0},
+        {"right", 0, 2, 0, 0, 0, 0},
+        {"start", 0, 3, 0, 0, 0, 0},
+        {"end", 0, 4, 0, 0, 0, 0},
+        {"underline", 0, 3, 1, 0, 0, 0},
+        {"noUnderline", 0, 3, 2, 0, 0, 0},
+        {"lineThrough", 0, 3, 3, 0, 0, 0},
+        {"noLineThrough", 0, 3, 4, 0, 0, 0},
+        {"overline", 0, 3, 5, 0, 0, 0},
+        {"noOverline", 0, 3, 6, 0, 0, 0},
+        {"underline overline", 0, 3, 0, 0, 0, 0},
+        {"italic", 0, 3, 0, 1, 0, 0},
+        {"oblique", 0, 3, 0, 0, 0, 0},
+        {"bold", 0, 3, 0, 0, 1, 0},
+        {"700", 0, 3, 0, 0, 0, 0},
+        {"hidden", 0, 3, 0, 0, 0, 1},
+        {"visible", 0, 3, 0, 0, 0, 0},
+        {"", 0, 3, 0, 0, 0, 0},
+        {"bold ", 0, 3, 0, 0, 0, 0},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.text);
+        EXPECT_EQ(eDisplayAlignFromKeyword(test.text), test.iDisplayAlign);
+        EXPECT_EQ(eTextAlignFromKeyword(test.text), test.iTextAlign);
+        EXPECT_EQ(eTextDecorationFromKeyword(test.text), test.iTextDecoration);
+        EXPECT_EQ(iFontStyleFromKeyword(test.text), test.iFontStyle);
+        EXPECT_EQ(iFontWeightFromKeyword(test.text), test.iFontWeight);
+        EXPECT_EQ(iVisibilityFromKeyword(test.text), test.iVisibility);
+    }
+}
+
+} // namespace
