@@ -1,0 +1,95 @@
+// Loading a document and generating its text sequence, over the bare parse of the same bytes. Results go to
+// standard error: standard output is the library's.
+#include "api/x_ttml.h"
+#include "bench/bare_parse.h"
+#include "bench/peak_memory.h"
+#include "bench/ratio_reporter.h"
+#include "bench/subtitle_document.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+
+namespace {
+
+constexpr int sizes[] = {100, 1000, 10000, 50000};
+constexpr int memorySize = 10000;
+constexpr double timeLimit = 1.25;
+constexpr double memoryLimit = 1.35;
+constexpr char bareTask[] = "--bare-parse";
+constexpr char generateTask[] = "--load-and-generate";
+
+void LoadAndGenerate(const std::string& text) {
+    x_ttml_handle handle = nullptr;
+    x_ttml_create_new_parser(&handle);
+    if (x_ttml_load_subtitle_from_data(handle, text.data(), static_cast<uint32_t>(text.size())) != X_TTML_OK)
+        std::abort();
+    x_ttml_generate_text_display_item_sequence(handle, 0);
+    x_ttml_destory_doc(handle);
+    x_ttml_delete_parser(handle);
+}
+
+template <void (*work)(const std::string&)>
+void Measure(benchmark::State& state) {
+    const std::string text = SubtitleDocument(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+        work(text);
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void Register(const char* name, void (*measure)(benchmark::State&)) {
+    auto* const benchmark = benchmark::RegisterBenchmark(name, measure);
+    benchmark->Unit(benchmark::kMillisecond)->Repetitions(9);
+    for (const int size : sizes)
+        benchmark->Arg(size);
+}
+
+std::vector<Ratio> TimeRatios() {
+    std::vector<Ratio> ratios;
+    for (const int size : sizes) {
+        const std::string suffix = "/" + std::to_string(size);
+        ratios.push_back({"LoadAndGenerate" + suffix, "BareParse" + suffix, timeLimit});
+    }
+    return ratios;
+}
+
+void ReportPeakMemory() {
+    const long bare = PeakMemoryOf(bareTask, memorySize);
+    const long generated = PeakMemoryOf(generateTask, memorySize);
+    std::cerr << "peak memory at " << memorySize << " paragraphs: " << generated << " KiB : " << bare
+              << " KiB = " << static_cast<double>(generated) / static_cast<double>(bare) << " (limit "
+              << memoryLimit << ")\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!std::freopen("/dev/null", "w", stdout))
+        return EXIT_FAILURE;
+    x_ttml_init_xerces();
+    const std::string task = argc == 3 ? argv[1] : "";
+    if (task == bareTask || task == generateTask) {
+        const std::string text = SubtitleDocument(std::atoi(argv[2]));
+        task == bareTask ? BareParse(text) : LoadAndGenerate(text);
+        return EXIT_SUCCESS;
+    }
+    Register("BareParse", Measure<BareParse>);
+    Register("LoadAndGenerate", Measure<LoadAndGenerate>);
+    // The repetitions of all take turns, so that a drift of the machine's speed falls on both sides.
+    std::string interleave = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + 1, interleave.data());
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    RatioReporter reporter(TimeRatios());
+    reporter.SetOutputStream(&std::cerr);
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    ReportPeakMemory();
+    x_ttml_uninit_xerces();
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,186 @@
+#include "binding/ttaf1_dfxp.h"
+
+#include "tests/binding/owned_document.h"
+#include "tests/support/captured_output.h"
+#include "xmltree/transcode.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+using namespace ttaf1_dfxp;
+using tt::Cttaf1_dfxp;
+
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+
+const std::string TTML = "<tt xmlns=\"http://www.w3.org/ns/ttml\" xml:lang=\"en\"><body/></tt>";
+
+Bytes BytesOf(const std::string& text) {
+    return Bytes(text.begin(), text.end());
+}
+
+Bytes ReadFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+/// A path in the test's own folder, removed with what was written there.
+struct ScratchFile {
+    explicit ScratchFile(const std::string& name) : path(testing::TempDir() + name) {}
+    ~ScratchFile() { std::remove(path.c_str()); }
+
+    std::string path;
+};
+
+std::string LangOf(const Cttaf1_dfxp& document) {
+    return document.tt.first().lang;
+}
+
+bool Contains(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+class Document : public testing::Test {
+    XercesSession session;
+};
+
+} // namespace
+
+TEST_F(Document, LoadsFromAFile) {
+    const ScratchFile file("binding_load.xml");
+    std::ofstream(file.path) << TTML;
+    Cttaf1_dfxp document(nullptr);
+    const std::string output = CapturedOutput([&] { document = Cttaf1_dfxp::LoadFromFile(file.path); });
+    EXPECT_EQ(output.substr(0, output.find('\n', output.find('\n') + 1) + 1),
+              "LoadFromFile called in ttaf1_dfxp\nXercesTreeOperations::LoadDocument called!\n");
+    EXPECT_EQ(LangOf(document), "en");
+    document.DestroyDocument();
+}
+
+TEST_F(Document, LoadsFromMemorySilently) {
+    const std::string output = CapturedOutput([] {
+        for (auto document :
+             {Cttaf1_dfxp::LoadFromString(TTML), Cttaf1_dfxp::LoadFromBinary(BytesOf(TTML))}) {
+            EXPECT_EQ(document.GetNode()->getNodeType(), xercesc::DOMNode::DOCUMENT_NODE);
+            EXPECT_TRUE(document.tt.exists());
+            EXPECT_FALSE(document.p.exists());
+            EXPECT_EQ(LangOf(document), "en");
+            document.DestroyDocument();
+        }
+    });
+    EXPECT_EQ(output, "");
+}
+
+TEST_F(Document, WhatCannotBeLoadedThrows) {
+    EXPECT_THROW(Cttaf1_dfxp::LoadFromString("<tt>"), tessera::DataSourceUnavailableException);
+    EXPECT_THROW(Cttaf1_dfxp::LoadFromBinary({}), tessera::DataSourceUnavailableException);
+    EXPECT_THROW(CapturedOutput([] { Cttaf1_dfxp::LoadFromFile("no/such/file.xml"); }),
+                 tessera::DataSourceUnavailableException);
+}
+
+TEST_F(Document, IsDestroyedOnce) {
+    auto document = Cttaf1_dfxp::CreateDocument();
+    EXPECT_NE(document.GetNode(), nullptr);
+    document.DestroyDocument();
+    EXPECT_EQ(document.GetNode(), nullptr);
+    document.DestroyDocument();
+    EXPECT_FALSE(document.tt.exists());
+}
+
+TEST_F(Document, SavesInTheEncodingAskedFor) {
+    const OwnedDocument document(TTML);
+    const struct {
+        const char* encoding;
+        Bytes start;
+    } cases[] = {
+        {"UTF-8", {'<', '?'}},
+        {"utf-16", {0xFF, 0xFE, '<', 0}},
+        {"UTF-16LE", {'<', 0, '?', 0}},
+        {"utf-16be", {0, '<', 0, '?'}},
+    };
+    const ScratchFile file("binding_save.xml");
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.encoding);
+        const Bytes bytes = document.root.SaveToBinary(false, c.encoding);
+        ASSERT_GE(bytes.size(), c.start.size());
+        EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(c.start.size())), c.start);
+        document.root.SaveToFile(file.path, false, c.encoding);
+        EXPECT_EQ(ReadFile(file.path), bytes);
+        const bool bigEndian = c.start[0] == 0;
+        const bool withBOM = c.start[0] == 0xFF;
+        EXPECT_EQ(document.root.SaveToBinary(false, c.encoding, bigEndian, withBOM), bytes);
+        document.root.SaveToFile(file.path, false, c.encoding, bigEndian, withBOM);
+        EXPECT_EQ(ReadFile(file.path), bytes);
+    }
+    document.root.SaveToFile(file.path, false);
+    EXPECT_EQ(ReadFile(file.path), document.root.SaveToBinary(false, "UTF-8"));
+}
+
+TEST_F(Document, SavesWhatItLoaded) {
+    const OwnedDocument document(TTML);
+    EXPECT_TRUE(Contains(document.root.SaveToString(false), TTML));
+    EXPECT_GT(document.root.SaveToString(true).size(), document.root.SaveToString(false).size());
+    const OwnedDocument again(document.root.SaveToString(true));
+    EXPECT_EQ(LangOf(again.root), "en");
+    auto binary = Cttaf1_dfxp::LoadFromBinary(document.root.SaveToBinary(false));
+    EXPECT_EQ(LangOf(binary), "en");
+    binary.DestroyDocument();
+}
+
+TEST_F(Document, WhatCannotBeSavedThrows) {
+    const OwnedDocument document(TTML);
+    const ScratchFile file("no_such_folder/binding.xml");
+    EXPECT_THROW(document.root.SaveToFile(file.path, false), tessera::DataTargetUnavailableException);
+    const Cttaf1_dfxp none(nullptr);
+    const Cttaf1_dfxp element(document.Dom().getDocumentElement());
+    for (const auto& wrapper : {none, element}) {
+        EXPECT_THROW(wrapper.SaveToString(false), tessera::InvalidOperationException);
+        EXPECT_THROW(wrapper.SaveToBinary(false), tessera::InvalidOperationException);
+        EXPECT_THROW(wrapper.SaveToFile(file.path, false), tessera::InvalidOperationException);
+    }
+}
+
+TEST_F(Document, SchemaLocation) {
+    OwnedDocument inNamespace(TTML);
+    inNamespace.root.SetSchemaLocation("ttml.xsd");
+    EXPECT_TRUE(Contains(inNamespace.root.SaveToString(false),
+                         "xsi:schemaLocation=\"http://www.w3.org/ns/ttml ttml.xsd\""));
+    OwnedDocument inNone("<tt/>");
+    inNone.root.SetSchemaLocation("ttml.xsd");
+    EXPECT_TRUE(Contains(inNone.root.SaveToString(false), "xsi:noNamespaceSchemaLocation=\"ttml.xsd\""));
+}
+
+TEST_F(Document, DTDLocation) {
+    OwnedDocument document("<!DOCTYPE tt [<!ELEMENT tt ANY>]><!-- first --><tt/>");
+    document.root.SetDTDLocation("new.dtd");
+    EXPECT_TRUE(
+        Contains(document.root.SaveToString(false), "<!-- first --><!DOCTYPE tt SYSTEM \"new.dtd\"><tt"));
+    document.root.SetDTDLocation("newer.dtd");
+    const std::string text = document.root.SaveToString(false);
+    EXPECT_TRUE(Contains(text, "<!DOCTYPE tt SYSTEM \"newer.dtd\">"));
+    EXPECT_FALSE(Contains(text, "new.dtd"));
+}
+
+TEST_F(Document, LocationsNeedARootElement) {
+    OwnedDocument empty;
+    const auto messageOf = [](auto&& edit) -> std::string {
+        try {
+            edit();
+        } catch (const tessera::InvalidOperationException& e) {
+            return e.message();
+        }
+        return "nothing thrown";
+    };
+    for (Cttaf1_dfxp document : {empty.root, Cttaf1_dfxp(nullptr)}) {
+        EXPECT_EQ(messageOf([&] { document.SetSchemaLocation("x"); }),
+                  "You have to add a root element before setting schema location.");
+        EXPECT_EQ(messageOf([&] { document.SetDTDLocation("x"); }),
+                  "You have to add a root element before setting DTD location.");
+    }
+}

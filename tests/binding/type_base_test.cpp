@@ -1,0 +1,192 @@
+#include "binding/type_base.h"
+
+#include "tests/binding/generated/accessor_visits.h"
+#include "tests/binding/owned_document.h"
+#include "xmltree/transcode.h"
+
+#include <xercesc/dom/DOMException.hpp>
+#include <xercesc/dom/DOMNodeList.hpp>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+using namespace ttaf1_dfxp;
+using xercesc::DOMElement;
+
+namespace {
+
+const tessera::MemberInfo& BODY_DIV = members[46];
+
+std::string IdOf(const xercesc::DOMNode* node) {
+    const auto* element = static_cast<const DOMElement*>(node);
+    return element ? std::string(XercesUnstringTemp(element->getAttribute(XercesStringTemp("id")))) : "none";
+}
+
+std::string NamespaceBoundTo(const DOMElement* element, const std::string& prefix) {
+    return XercesUnstringTemp(element->lookupNamespaceURI(XercesStringTemp(prefix)));
+}
+
+/// The name in xsi:type with its prefix resolved, as "{namespace}local name".
+std::string XsiTypeOf(const DOMElement* element) {
+    const std::string value = XercesUnstringTemp(element->getAttributeNS(
+        XercesStringTemp("http://www.w3.org/2001/XMLSchema-instance"), XercesStringTemp("type")));
+    const auto colon = value.find(':');
+    return "{" + NamespaceBoundTo(element, value.substr(0, colon)) + "}" + value.substr(colon + 1);
+}
+
+/// Sets xsi:type by every class on an element of its own and collects what was written, by type index.
+struct XsiTypes {
+    template <class Wrapper>
+    void Visit(std::uint32_t type) {
+        const OwnedDocument document("<e/>");
+        DOMElement* element = document.Dom().getDocumentElement();
+        Wrapper(element).SetXsiType();
+        written[type] = XsiTypeOf(element);
+    }
+
+    std::map<std::uint32_t, std::string> written;
+};
+
+/// Replaces and reads the text by a class that has text.
+template <class Wrapper>
+void ExpectText() {
+    const OwnedDocument document("<e>one<b>two</b><!-- three --><![CDATA[four]]></e>");
+    Wrapper wrapper(document.Dom().getDocumentElement());
+    EXPECT_EQ(static_cast<std::string>(wrapper), "onetwofour");
+    wrapper = std::string("a < b");
+    EXPECT_EQ(static_cast<std::string>(wrapper), "a < b");
+    EXPECT_EQ(document.Dom().getDocumentElement()->getChildNodes()->getLength(), 1U);
+    EXPECT_THROW(Wrapper(nullptr) = std::string("x"), tessera::InvalidOperationException);
+    EXPECT_EQ(static_cast<std::string>(Wrapper(nullptr)), "");
+}
+
+} // namespace
+
+TEST(TypeBase, FindsTheChildElementsOfAMember) {
+    const OwnedDocument document("<body xmlns:f='urn:f'><p id='x'/><div id='1'/>div<f:div id='2'/>"
+                                 "<!-- div --><Div id='y'/><div id='3'/></body>");
+    TypeBase body(document.Dom().getDocumentElement());
+    EXPECT_EQ(body.CountElement(BODY_DIV), 3U);
+    const char* const ids[] = {"1", "2", "3", "none", "none"};
+    for (std::uint32_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(IdOf(body.GetElementNth(BODY_DIV, i)), ids[i]) << i;
+    }
+    EXPECT_EQ(IdOf(body.GetElementLast(BODY_DIV)), "3");
+    body.RemoveElement(BODY_DIV);
+    EXPECT_EQ(body.CountElement(BODY_DIV), 0U);
+    EXPECT_EQ(std::string(XercesUnstringTemp(body.GetNode()->getTextContent())), "div");
+    EXPECT_EQ(body.GetNode()->getChildNodes()->getLength(), 4U);
+}
+
+TEST(TypeBase, FindsNothingWhereNothingIs) {
+    const OwnedDocument document("<body/>");
+    for (TypeBase empty : {TypeBase(document.Dom().getDocumentElement()), TypeBase(nullptr)}) {
+        EXPECT_EQ(empty.GetElementNth(BODY_DIV, 0), nullptr);
+        EXPECT_EQ(empty.GetElementLast(BODY_DIV), nullptr);
+        EXPECT_EQ(empty.CountElement(BODY_DIV), 0U);
+        empty.RemoveElement(BODY_DIV);
+    }
+}
+
+TEST(TypeBase, EnumerationValues) {
+    const auto first = static_cast<std::uint32_t>(types[90].facetIndex); // displayAlign
+    EXPECT_EQ(TypeBase::GetEnumerationValue(0, first, 3), "before");
+    EXPECT_EQ(TypeBase::GetEnumerationValue(2, first, 3), "after");
+    const struct {
+        std::int32_t index;
+        std::uint32_t first;
+        std::uint32_t count;
+    } outside[] = {
+        {3, first, 3},
+        {-1, first, 3},
+        {0, first, 0},
+        {3, first, 4}, // the end of the list
+        {0, FACET_COUNT, 1},
+        {0, 0xFFFFFFFF, 0xFFFFFFFF},
+        {2147483647, 1, 0xFFFFFFFF},
+    };
+    for (const auto& c : outside) {
+        SCOPED_TRACE(c.index);
+        try {
+            TypeBase::GetEnumerationValue(c.index, c.first, c.count);
+            FAIL() << "nothing thrown";
+        } catch (const tessera::ConversionException& e) {
+            EXPECT_EQ(e.message(), "Enumeration index out of range.");
+        }
+    }
+}
+
+TEST(TypeBase, EnumerationIndices) {
+    const auto displayAlign = static_cast<std::uint32_t>(types[90].facetIndex);
+    const auto lang = static_cast<std::uint32_t>(types[79].facetIndex);
+    const struct {
+        const char* value;
+        std::uint32_t first;
+        std::uint32_t count;
+        std::int32_t index;
+    } cases[] = {
+        {"before", displayAlign, 3, 0},
+        {"after", displayAlign, 3, 2},
+        {"after", displayAlign, 2, -1},
+        {"Before", displayAlign, 3, -1},
+        {" after", displayAlign, 3, -1},
+        {"", displayAlign, 4, -1},
+        {"", lang, 1, 0},
+        {"en", lang, 1, -1},
+        {"before", 0, FACET_COUNT, static_cast<std::int32_t>(displayAlign)},
+        {"before", 0xFFFFFFFF, 0xFFFFFFFF, -1},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(TypeBase::GetEnumerationIndex(c.value, c.first, c.count), c.index) << c.value;
+    }
+}
+
+TEST(TypeBase, SetXsiTypeWritesTheNearestNamedType) {
+    const std::string string = "{http://www.w3.org/2001/XMLSchema}string";
+    const std::string datatype = "{http://www.w3.org/ns/ttml#datatype}";
+    const std::map<std::uint32_t, std::string> anonymous = {
+        {48, string},
+        {63, string},
+        {65, string},
+        {68, string},
+        {131, datatype + "extensionDesignator"},
+        {132, datatype + "featureDesignator"},
+    };
+    XsiTypes classes;
+    VisitClasses(classes);
+    EXPECT_EQ(classes.written.size(), 32U);
+    EXPECT_EQ(classes.written[133], "{http://www.w3.org/ns/ttml#metadata}actor.eltype");
+    for (const auto& [type, written] : classes.written) {
+        const auto found = anonymous.find(type);
+        const std::string own = std::string("{") + namespaces[types[type].namespaceIndex].namespaceURI + "}" +
+                                types[type].localName;
+        EXPECT_EQ(written, found == anonymous.end() ? own : found->second) << type;
+    }
+}
+
+TEST(TypeBase, SetXsiTypeNeedsAnElement) {
+    OwnedDocument document;
+    EXPECT_THROW(document.root.SetXsiType(), xercesc::DOMException);
+    EXPECT_THROW(tt::Cp_eltype(nullptr).SetXsiType(), tessera::InvalidOperationException);
+}
+
+TEST(TextContent, IsReadAndReplaced) {
+    ExpectText<tt::Cp_eltype>();
+    ExpectText<tt::Cspan_eltype>();
+    ExpectText<tt::Cmetadata_eltype>();
+    ExpectText<xs::CstringType>();
+    ExpectText<xs::CanyType>();
+    ExpectText<ttm::Ccopyright_eltype>();
+    ExpectText<ttm::Cdesc_eltype>();
+    ExpectText<ttm::Cname_eltype>();
+    ExpectText<ttm::Ctitle_eltype>();
+    ExpectText<ttd::CextensionDesignatorType>();
+    ExpectText<ttd::CfeatureDesignatorType>();
+    ExpectText<tt::CdataType>();
+    ExpectText<tt::CimageType>();
+    ExpectText<tt::CinformationType>();
+    ExpectText<ttp::Cextension_eltype>();
+    ExpectText<ttp::Cfeature_eltype>();
+}
