@@ -18,6 +18,12 @@ void vMergeContent(TextItem& target, const TextItem& source) {
 } // namespace
 
 std::optional<std::size_t> TtmlParser::rFindByTime(std::uint32_t uTime) const {
+    const bool fgCurrent = timeIndex_.uGetItemCount() == vecDisplaySequence_.size();
+    return fgCurrent ? timeIndex_.rFind(uTime) : rWalkToTime(uTime);
+}
+
+// For a sequence that a generation has left unfinished.
+std::optional<std::size_t> TtmlParser::rWalkToTime(std::uint32_t uTime) const {
     const auto fgOnScreen = [uTime](const DisplayItem* pItem) {
         return pItem->fgCheckTimeInfo(static_cast<std::int32_t>(uTime));
     };
@@ -75,5 +81,6 @@ void TtmlParser::vClearDisplaySequence() {
         pItem = nullptr;
     }
     vecDisplaySequence_.clear();
+    timeIndex_.vClear();
     vecEarlierBuffers_.clear();
 }

@@ -82,7 +82,8 @@ const StylingAttrib* TtmlParser::prReadRegion(const std::optional<std::string>& 
         return nullptr;
     }
     const StylingAttrib* const pRegion = prGetRegionByID(*strId);
-    styling = pRegion ? *pRegion : StylingAttrib();
+    if (pRegion)
+        styling = *pRegion;
     return pRegion;
 }
 

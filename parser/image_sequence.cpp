@@ -53,6 +53,7 @@ void TtmlParser::vGenerateImageDisplaySequence(int iOffset) {
     vResetDocumentTime();
     for (const DisplayItem* pItem : vecDisplaySequence_)
         vExtendDocumentTime(*pItem);
+    timeIndex_.vBuild(vecDisplaySequence_);
     vWriteDocumentTime();
 }
 

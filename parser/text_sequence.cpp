@@ -14,6 +14,7 @@ using namespace ttaf1_dfxp::tt;
 namespace {
 
 constexpr char16_t lineBreak = u'\n';
+constexpr std::size_t uUsualSentences = 4; // two lines of text, the break between them and one run more
 
 void vAppendText(const xercesc::DOMNode& text, std::vector<char16_t>& vecTarget) {
     const XMLCh* const pUnits = text.getNodeValue();
@@ -92,14 +93,14 @@ private:
 /// Lays a style over the styling of a region. What the style did not give stays as it was; the area stays in
 /// any case, and so does the weight under a style that is not bold.
 void vMergeStyle(const StylingAttrib& style, StylingAttrib& styling) {
-    const StylingAttrib earlier = std::exchange(styling, style);
-    styling.uExtentWidth = earlier.uExtentWidth;
-    styling.uExtentHeight = earlier.uExtentHeight;
-    styling.uOriginX = earlier.uOriginX;
-    styling.uOriginY = earlier.uOriginY;
+    StylingAttrib merged = style;
+    merged.uExtentWidth = styling.uExtentWidth;
+    merged.uExtentHeight = styling.uExtentHeight;
+    merged.uOriginX = styling.uOriginX;
+    merged.uOriginY = styling.uOriginY;
     const auto vKeep = [&](bool fgSet, auto StylingAttrib::*pField) {
         if (!fgSet)
-            styling.*pField = earlier.*pField;
+            merged.*pField = std::move(styling.*pField);
     };
     vKeep(style.fgColorSet, &StylingAttrib::strColor);
     vKeep(style.fgFontSizeSet, &StylingAttrib::uFontSize);
@@ -110,6 +111,7 @@ void vMergeStyle(const StylingAttrib& style, StylingAttrib& styling) {
     vKeep(style.fgTextDecorationSet, &StylingAttrib::eTextDecoration);
     vKeep(style.fgVisibilitySet, &StylingAttrib::iVisibility);
     vKeep(style.fgDisplayAlignSet, &StylingAttrib::eDisplayAlign);
+    styling = std::move(merged);
 }
 
 std::int32_t iReadTime(const std::optional<std::string>& strTime, const TimeRates& rates) {
@@ -117,6 +119,7 @@ std::int32_t iReadTime(const std::optional<std::string>& strTime, const TimeRate
 }
 
 void vReadContent(xercesc::DOMNode& paragraph, TextItem& item) {
+    item.vecSentence.reserve(uUsualSentences);
     for (xercesc::DOMNode* pNode = paragraph.getFirstChild(); pNode; pNode = pNode->getNextSibling()) {
         switch (eGetContentKind(*pNode)) {
         case ContentKind::TEXT:
@@ -177,6 +180,7 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
         vAppend(std::move(item));
         vExtendDocumentTime(*vecDisplaySequence_.back());
     }
+    timeIndex_.vBuild(vecDisplaySequence_);
     vWriteDocumentTime();
     std::cout << strGetDocLanguage() << std::endl;
 }

@@ -11,6 +11,7 @@
 
 #include "binding/ttaf1_dfxp.h"
 #include "parser/display_item.h"
+#include "parser/time_index.h"
 #include "style/style_tables.h"
 
 #include <array>
@@ -176,6 +177,7 @@ private:
     std::optional<ttaf1_dfxp::tt::Cbody_eltype> rFindBodyWithDivision() const;
     void vReadRootExtent();
     TimeRates rReadTimeRates() const;
+    // Styles a fresh item by its region, or by the root extent when it names none.
     const StylingAttrib* prReadRegion(const std::optional<std::string>& strId, StylingAttrib& styling) const;
     static std::int32_t iShifted(std::int32_t iTime, std::int32_t iOffset);
     void vAppend(std::unique_ptr<DisplayItem> item);
@@ -190,6 +192,7 @@ private:
     bool fgItemsUseDocumentBuffer() const;
 
     std::optional<std::size_t> rFindByTime(std::uint32_t uTime) const;
+    std::optional<std::size_t> rWalkToTime(std::uint32_t uTime) const;
 
     std::int32_t iDocumentStartTime_;
     std::int32_t iDocumentEndTime_;
@@ -205,6 +208,7 @@ private:
     std::array<ImageTableEntry, 30> aImageTable_;
     ttaf1_dfxp::tt::Cttaf1_dfxp documentRoot_;
     std::vector<std::vector<std::uint8_t>> vecEarlierBuffers_; // that items point into
+    TimeIndex timeIndex_; // of the sequence as the last completed generation left it
 };
 
 #endif
