@@ -8,7 +8,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -43,7 +42,7 @@ void Measure(benchmark::State& state) {
 
 void Register(const char* name, void (*measure)(benchmark::State&)) {
     auto* const benchmark = benchmark::RegisterBenchmark(name, measure);
-    benchmark->Unit(benchmark::kMillisecond)->Repetitions(9);
+    benchmark->Unit(benchmark::kMillisecond);
     for (const int size : sizes)
         benchmark->Arg(size);
 }
@@ -68,8 +67,6 @@ void ReportPeakMemory() {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (!std::freopen("/dev/null", "w", stdout))
-        return EXIT_FAILURE;
     x_ttml_init_xerces();
     const std::string task = argc == 3 ? argv[1] : "";
     if (task == bareTask || task == generateTask) {
@@ -79,16 +76,7 @@ int main(int argc, char** argv) {
     }
     Register("BareParse", Measure<BareParse>);
     Register("LoadAndGenerate", Measure<LoadAndGenerate>);
-    // The repetitions of all take turns, so that a drift of the machine's speed falls on both sides.
-    std::string interleave = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1, interleave.data());
-    int count = static_cast<int>(arguments.size());
-    arguments.push_back(nullptr);
-    benchmark::Initialize(&count, arguments.data());
-    RatioReporter reporter(TimeRatios());
-    reporter.SetOutputStream(&std::cerr);
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    RunBenchmarks(argc, argv, TimeRatios());
     ReportPeakMemory();
     x_ttml_uninit_xerces();
     return EXIT_SUCCESS;

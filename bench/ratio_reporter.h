@@ -1,10 +1,7 @@
-// Prints every measurement and, at the end, the ratios between pairs of them.
+// Runs benchmarks and prints, after every measurement, the ratios between pairs of them.
 #ifndef XTTML_BENCH_RATIO_REPORTER_H
 #define XTTML_BENCH_RATIO_REPORTER_H
 
-#include <benchmark/benchmark.h>
-
-#include <map>
 #include <string>
 #include <vector>
 
@@ -15,18 +12,9 @@ struct Ratio {
     double limit;
 };
 
-class RatioReporter : public benchmark::ConsoleReporter {
-public:
-    explicit RatioReporter(std::vector<Ratio> ratios);
-
-    void ReportRuns(const std::vector<Run>& runs) override;
-    void Finalize() override;
-
-private:
-    double MedianOf(const std::string& name) const;
-
-    std::vector<Ratio> ratios_;
-    std::map<std::string, std::vector<double>> secondsByName_;
-};
+/// Runs the registered benchmarks with Google Benchmark's options. The repetitions of all take turns, so that
+/// a drift of the machine's speed falls on both sides of a ratio; a ratio is of the medians. Results go to
+/// standard error, since standard output is the library's: it is dropped from here on.
+void RunBenchmarks(int argc, char** argv, std::vector<Ratio> ratios);
 
 #endif

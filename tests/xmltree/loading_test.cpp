@@ -1,0 +1,129 @@
+#include "runtime/exceptions.h"
+#include "tests/support/captured_output.h"
+#include "tests/xmltree/sample_document.h"
+
+#include <gtest/gtest.h>
+#include <xercesc/framework/MemoryManager.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+
+namespace {
+
+constexpr char NAMESPACED[] = "<p:tt xmlns:p='urn:tt'/>";
+constexpr char STEPS_BEFORE_PARSING[] = "XercesTreeOperations::LoadDocument called!\n"
+                                        "declare parser OK\n"
+                                        "parser Created OK\n"
+                                        "defaultHandler Created OK\n"
+                                        "setErrorHandler OK\n"
+                                        "setDoNamespaces OK\n";
+
+std::vector<unsigned char> Bytes(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+std::string LittleEndian(const std::string& text) {
+    std::string units = "\xFF\xFE";
+    for (const char c : text) {
+        units += {c, '\0'};
+    }
+    return units;
+}
+
+/// What a load gives: the namespace and local name of the root, or the message of its failure.
+template <class Load>
+std::string Outcome(Load&& load) {
+    try {
+        xercesc::DOMDocument* document = load();
+        const xercesc::DOMElement* root = document->getDocumentElement();
+        const std::string name =
+            XercesUnstringTemp(root->getNamespaceURI()) + " " + XercesUnstringTemp(root->getLocalName());
+        Tree::FreeDocument(document);
+        return name;
+    } catch (const tessera::DataSourceUnavailableException& failure) {
+        return failure.message();
+    }
+}
+
+TEST(Loading, FromAFileReportsEveryStep) {
+    const XercesSession session;
+    const std::string path = testing::TempDir() + "xttml_loading_test.xml";
+    const auto load = [&path] { return Tree::LoadDocument(path); };
+    const std::string steps = STEPS_BEFORE_PARSING;
+    std::string outcome;
+    const auto outputOf = [&](const char* content) {
+        std::remove(path.c_str());
+        if (content) {
+            std::ofstream(path) << content;
+        }
+        return CapturedOutput([&] { outcome = Outcome(load); });
+    };
+    EXPECT_EQ(outputOf(NAMESPACED), steps + "parse OK\nadoptDocument OK\n");
+    EXPECT_EQ(outcome, "urn:tt tt");
+    for (const char* content : {"<tt>", static_cast<const char*>(nullptr)}) {
+        const std::string output = outputOf(content);
+        const std::string kind = output == steps + "XMLException catched\n" ? "XML" : "SAX";
+        EXPECT_EQ(output, steps + kind + "Exception catched\n");
+        EXPECT_EQ(outcome.find(path + ": Xerces " + kind + " error while loading: "), 0u) << outcome;
+    }
+    std::remove(path.c_str());
+}
+
+TEST(Loading, FromMemorySaysNothing) {
+    const XercesSession session;
+    const std::string failure = "Xerces SAX error while loading: ";
+    const struct {
+        std::string text;
+        std::string outcome; ///< its beginning
+    } cases[] = {{NAMESPACED, "urn:tt tt"},
+                 {LittleEndian(NAMESPACED), "urn:tt tt"},
+                 {"", failure},
+                 {"no markup", failure},
+                 {"<tt>", failure},
+                 {LittleEndian("<tt>"), failure},
+                 {"<tt a='1' a='2'/>", failure},
+                 {"<x:tt/>", failure},
+                 {"<tt>&unknown;</tt>", failure},
+                 {"<tt>\xC3</tt>", failure},
+                 {"<?xml version='1.0' encoding='no-such'?><tt/>", failure},
+                 {"<!DOCTYPE tt [<!ENTITY e '<p>'>]><tt>&e;</tt>", failure}};
+    const std::string output = CapturedOutput([&] {
+        for (const auto& c : cases) {
+            const std::string outcome = Outcome([&c] { return Tree::LoadXml(c.text); });
+            EXPECT_EQ(outcome.substr(0, c.outcome.size()), c.outcome) << c.text;
+            EXPECT_EQ(outcome, Outcome([&c] { return Tree::LoadFromBinary(Bytes(c.text)); }));
+        }
+    });
+    EXPECT_EQ(output, "");
+}
+
+TEST(Loading, WithoutTheXmlLibraryFailsInsteadOfCrashing) {
+    const std::string outcome = Outcome([] { return Tree::LoadXml(NAMESPACED); });
+    EXPECT_EQ(outcome.find("Xerces XML error while loading: "), 0u) << outcome;
+    EXPECT_THROW(Tree::CreateDocument(), tessera::InvalidOperationException);
+}
+
+/// Gives memory until it is told not to.
+class LimitedMemory : public xercesc::MemoryManager {
+public:
+    bool isExhausted = false;
+
+    xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
+    void* allocate(XMLSize_t size) override {
+        return isExhausted ? throw xercesc::OutOfMemoryException() : std::malloc(size);
+    }
+    void deallocate(void* block) override { std::free(block); }
+};
+
+TEST(Loading, ExhaustedMemoryPassesThrough) {
+    LimitedMemory memory;
+    xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr, &memory);
+    memory.isExhausted = true;
+    EXPECT_THROW(Tree::LoadXml(NAMESPACED), xercesc::OutOfMemoryException);
+    memory.isExhausted = false;
+    xercesc::XMLPlatformUtils::Terminate();
+}
+
+} // namespace

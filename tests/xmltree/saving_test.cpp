@@ -1,0 +1,113 @@
+#include "runtime/exceptions.h"
+#include "tests/support/captured_output.h"
+#include "tests/xmltree/sample_document.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+
+constexpr char XML[] = "<tt a='\xC3\xA9'><p>t</p></tt>";
+
+std::string RootText(const Bytes& bytes) {
+    xercesc::DOMDocument* document = Tree::LoadFromBinary(bytes);
+    const std::string text =
+        Tree::GetTextValue(Tree::FindAttribute(document->getDocumentElement(), "", "a")) +
+        Tree::GetTextValue(document);
+    Tree::FreeDocument(document);
+    return text;
+}
+
+Bytes FileContents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+TEST(Saving, ToBytesInTheEncodingAskedFor) {
+    const SampleDocument sample(XML);
+    const struct {
+        const char* encoding;
+        bool bigEndian;
+        bool withBOM;
+        Bytes beginning;
+    } cases[] = {
+        {"UTF-8", false, false, {'<', '?', 'x'}},      {"UTF-8", false, true, {0xEF, 0xBB, 0xBF, '<', '?'}},
+        {"utf-16", false, true, {0xFF, 0xFE, '<', 0}}, {"UTF-16", true, true, {0xFE, 0xFF, 0, '<'}},
+        {"UTF-16LE", false, false, {'<', 0, '?', 0}},  {"UTF-16BE", true, false, {0, '<', 0, '?'}},
+        {"ISO-8859-1", true, true, {'<', '?', 'x'}},
+    };
+    for (const auto& c : cases) {
+        Bytes data(3, 'x');
+        Tree::SaveToBinary(data, sample.Get(), false, c.encoding, c.bigEndian, c.withBOM, true);
+        ASSERT_GT(data.size(), c.beginning.size());
+        EXPECT_TRUE(std::equal(c.beginning.begin(), c.beginning.end(), data.begin())) << c.encoding;
+        EXPECT_EQ(RootText(data), "\xE9t") << c.encoding;
+    }
+}
+
+TEST(Saving, WithoutEncodingTheBytesAreTheXmlLibrarysOwn) {
+    const SampleDocument sample(XML);
+    Bytes data;
+    Tree::SaveToBinary(data, sample.Get(), false, "UTF-16", true, true, false);
+    EXPECT_EQ(data, Tree::SaveToBinary(sample.Get(), false));
+    EXPECT_EQ(RootText(data), "\xE9t");
+    EXPECT_GT(Tree::SaveToBinary(sample.Get(), true).size(), data.size());
+}
+
+TEST(Saving, ToAStringOfNarrowedUnits) {
+    const SampleDocument sample("<tt>\xC3\xA9\xE2\x82\xAC</tt>");
+    EXPECT_EQ(sample.Text(), "<tt>\xE9\xAC</tt>");
+    EXPECT_NE(Tree::SaveXml(sample.Get(), true), Tree::SaveXml(sample.Get(), false));
+}
+
+TEST(Saving, ToAFile) {
+    const SampleDocument sample(XML);
+    const std::string path = testing::TempDir() + "xttml_saving_test.xml";
+    const std::string output = CapturedOutput([&] {
+        Tree::SaveDocument(sample.Get(), path, false);
+        EXPECT_EQ(FileContents(path), Tree::SaveToBinary(sample.Get(), false));
+        Tree::SaveDocument(sample.Get(), path, false, "UTF-16", true, true);
+    });
+    EXPECT_EQ(output, "");
+    EXPECT_EQ(FileContents(path)[0], 0xFE);
+    EXPECT_EQ(RootText(FileContents(path)), "\xE9t");
+    std::remove(path.c_str());
+}
+
+TEST(Saving, FailuresLeaveNoFileButTheBytesProduced) {
+    const SampleDocument sample("<tt><!--\xE2\x82\xAC--></tt>"); // Latin-1 cannot write the comment
+    const std::string path = testing::TempDir() + "xttml_never_written.xml";
+    const std::string nowhere = testing::TempDir() + "xttml_no_such_directory/file.xml";
+    Bytes data;
+    const struct {
+        std::function<void()> save;
+        std::string message;
+    } cases[] = {
+        {[&] { Tree::SaveDocument(sample.Get(), nowhere, false); },
+         "Could not open file " + nowhere + " for writing."},
+        {[&] { Tree::SaveDocument(sample.Get(), path, false, "no-such-encoding", false, false); },
+         "Xerces XML error while saving."},
+        {[&] { Tree::SaveToBinary(data, sample.Get(), false, "ISO-8859-1", false, false, true); },
+         "Xerces XML error while saving."},
+        {[] { Tree::SaveToBinary(nullptr, false); }, "Xerces XML error while saving."},
+        {[] { Tree::SaveXml(nullptr, false); }, "Xerces XML error while saving."},
+    };
+    for (const auto& c : cases) {
+        try {
+            c.save();
+            ADD_FAILURE() << "no exception; expected " << c.message;
+        } catch (const tessera::DataTargetUnavailableException& failure) {
+            EXPECT_EQ(failure.message(), c.message);
+        }
+    }
+    EXPECT_FALSE(std::ifstream(path).is_open());
+    EXPECT_EQ(std::string(data.begin(), data.end()).substr(0, 5), "<?xml");
+}
+
+} // namespace

@@ -1,0 +1,124 @@
+#include "xmltree/tree_operations.h"
+
+#include "xmltree/transcode.h"
+
+#include <xercesc/dom/DOMNamedNodeMap.hpp>
+
+using xercesc::DOMNamedNodeMap;
+using xercesc::DOMNode;
+
+namespace {
+
+bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* localName) {
+    const XMLCh* name = attribute->getLocalName();
+    return (XercesTreeOperations::IsEqualString(name, localName) ||
+            (!name && XercesTreeOperations::IsEqualString(attribute->getNodeName(), localName))) &&
+           XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI);
+}
+
+/// The value of a node. That of an attribute with a single text child is taken from the child: asked for it,
+/// an attribute of the XML library goes by way of dynamic casts.
+const XMLCh* ValueOf(const DOMNode* node) {
+    if (node->getNodeType() == DOMNode::ATTRIBUTE_NODE) {
+        const DOMNode* child = node->getFirstChild();
+        if (child && child->getNodeType() == DOMNode::TEXT_NODE && !child->getNextSibling()) {
+            return child->getNodeValue();
+        }
+    }
+    return node->getNodeValue();
+}
+
+enum class TextKind { NONE, OWN_VALUE, INSIDE };
+
+TextKind TextKindOf(const DOMNode* node) {
+    switch (node->getNodeType()) {
+    case DOMNode::ELEMENT_NODE:
+    case DOMNode::ENTITY_REFERENCE_NODE:
+    case DOMNode::DOCUMENT_NODE:
+    case DOMNode::DOCUMENT_FRAGMENT_NODE:
+        return TextKind::INSIDE;
+    case DOMNode::ATTRIBUTE_NODE:
+    case DOMNode::TEXT_NODE:
+    case DOMNode::CDATA_SECTION_NODE:
+    case DOMNode::PROCESSING_INSTRUCTION_NODE:
+    case DOMNode::COMMENT_NODE:
+        return TextKind::OWN_VALUE;
+    default:
+        return TextKind::NONE;
+    }
+}
+
+/// Adds what a node met inside another one contributes and tells whether to look inside it as well.
+bool EntersForText(const DOMNode* node, std::string& text) {
+    switch (node->getNodeType()) {
+    case DOMNode::TEXT_NODE:
+    case DOMNode::CDATA_SECTION_NODE:
+        AppendNarrowed(text, node->getNodeValue());
+        return false;
+    case DOMNode::ELEMENT_NODE:
+    case DOMNode::ENTITY_REFERENCE_NODE:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The node after `node` and all inside it, in document order and inside `top`; null at the end.
+const DOMNode* NextOutside(const DOMNode* node, const DOMNode* top) {
+    while (node != top && !node->getNextSibling()) {
+        node = node->getParentNode();
+    }
+    return node == top ? nullptr : node->getNextSibling();
+}
+
+std::string TextInside(const DOMNode* top) {
+    std::string text;
+    const DOMNode* node = top->getFirstChild();
+    while (node) {
+        const DOMNode* child = EntersForText(node, text) ? node->getFirstChild() : nullptr;
+        node = child ? child : NextOutside(node, top);
+    }
+    return text;
+}
+
+} // namespace
+
+DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const tessera::MemberInfo& member) {
+    return FindAttribute(node, member.namespaceURI, member.localName);
+}
+
+// Asked many times for every element, mostly in vain: the names are compared in place.
+DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const char* namespaceURI,
+                                             const char* localName) {
+    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
+    const XMLSize_t count = attributes ? attributes->getLength() : 0;
+    for (XMLSize_t i = 0; i < count; ++i) {
+        DOMNode* attribute = attributes->item(i);
+        if (HasName(attribute, namespaceURI, localName)) {
+            return attribute;
+        }
+    }
+    return nullptr;
+}
+
+bool XercesTreeOperations::HasAttributeInNamespace(const DOMNode* node, const tessera::MemberInfo& member) {
+    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
+    const XMLSize_t count = attributes ? attributes->getLength() : 0;
+    for (XMLSize_t i = 0; i < count; ++i) {
+        if (IsEqualString(attributes->item(i)->getNamespaceURI(), member.namespaceURI)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string XercesTreeOperations::GetTextValue(const DOMNode* node) {
+    switch (node ? TextKindOf(node) : TextKind::NONE) {
+    case TextKind::INSIDE:
+        return TextInside(node);
+    case TextKind::OWN_VALUE:
+        return XercesUnstringTemp(ValueOf(node));
+    default:
+        return {};
+    }
+}

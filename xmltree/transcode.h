@@ -1,0 +1,52 @@
+// Strings across the border of the XML library: 8-bit inside the system, UTF-16 on the other side.
+//
+// The two directions are not symmetric. Into the XML library a string is transcoded from the code page of
+// the process, as that library does it; out of it every code unit is narrowed to its low 8 bits, whatever
+// the locale, so that a document reads the same in every process.
+#ifndef XTTML_XMLTREE_TRANSCODE_H
+#define XTTML_XMLTREE_TRANSCODE_H
+
+#include "runtime/export.h"
+
+#include <xercesc/util/XercesDefs.hpp>
+
+#include <memory>
+#include <string>
+
+static_assert(sizeof(XMLCh) == 2, "the XML library's strings are UTF-16");
+
+/// Appends the low 8 bits of every code unit of `utf16`, a zero-terminated string; null appends nothing.
+XTTML_API void AppendNarrowed(std::string& target, const XMLCh* utf16);
+
+/// A 16-bit copy of an 8-bit string, for the length of one call into the XML library, which must be
+/// initialised. Throws what the XML library's transcoder throws.
+class XTTML_API XercesStringTemp {
+public:
+    /// Transcodes a zero-terminated string; null counts as the empty string.
+    explicit XercesStringTemp(const char* chars);
+    /// Transcodes up to the first zero byte.
+    explicit XercesStringTemp(const std::string& chars) : XercesStringTemp(chars.c_str()) {}
+    virtual ~XercesStringTemp();
+    XercesStringTemp(const XercesStringTemp&) = delete;
+    XercesStringTemp& operator=(const XercesStringTemp&) = delete;
+
+    /// The zero-terminated 16-bit text, never null, valid while the object lives.
+    operator const XMLCh*() const { return text.c_str(); }
+
+private:
+    struct Release {
+        void operator()(XMLCh* transcoded) const;
+    };
+
+    std::basic_string<XMLCh> text;
+    std::unique_ptr<XMLCh, Release> rawTranscode;
+};
+
+/// The 8-bit copy of a 16-bit string: the low 8 bits of every code unit.
+class XTTML_API XercesUnstringTemp : public std::string {
+public:
+    /// Takes a zero-terminated string; null gives the empty string.
+    explicit XercesUnstringTemp(const XMLCh* utf16) { AppendNarrowed(*this, utf16); }
+};
+
+#endif
