@@ -1,4 +1,4 @@
-# The warnings every target is built with, and the sanitizers when asked for.
+# The warnings every target is built with, and the sanitizers and line counters when asked for.
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 if(XTTML_WARNINGS_AS_ERRORS)
   add_compile_options(-Werror)
@@ -6,6 +6,10 @@ endif()
 if(XTTML_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+if(XTTML_COVERAGE)
+  add_compile_options(--coverage -fprofile-update=atomic)
+  add_link_options(--coverage)
 endif()
 
 # Offset times are rounded after every product and every sum, on every machine.

@@ -51,6 +51,11 @@ std::size_t SkipWhitespace(std::string_view text, std::size_t position) {
     return position;
 }
 
+// Computed, not looked up, so that the compiler can do many at once.
+constexpr char HexDigit(int value) {
+    return static_cast<char>(value + (value > 9 ? 'A' - 10 : '0'));
+}
+
 constexpr unsigned char Byte(unsigned value) {
     return static_cast<unsigned char>(value & 0xFF);
 }
@@ -132,10 +137,10 @@ std::string PrintBase64(const std::vector<unsigned char>& bytes) {
 
 std::string PrintHex(const std::vector<unsigned char>& bytes) {
     std::string text(bytes.size() * 2, '0');
-    char* output = text.data();
-    for (const unsigned char byte : bytes) {
-        *output++ = HEX_DIGITS[byte >> 4];
-        *output++ = HEX_DIGITS[byte & 0xF];
+    char* const output = text.data();
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        output[2 * i] = HexDigit(bytes[i] >> 4);
+        output[2 * i + 1] = HexDigit(bytes[i] & 0xF);
     }
     return text;
 }
