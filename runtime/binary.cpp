@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace tessera {
 
@@ -37,8 +38,18 @@ constexpr DigitTable HexTable() {
     return table;
 }
 
+/// Both digits of every byte: one store instead of two.
+constexpr std::array<std::array<char, 2>, 256> HexPairs() {
+    std::array<std::array<char, 2>, 256> pairs{};
+    for (std::size_t byte = 0; byte < pairs.size(); ++byte) {
+        pairs[byte] = {HEX_DIGITS[byte >> 4], HEX_DIGITS[byte & 0xF]};
+    }
+    return pairs;
+}
+
 constexpr DigitTable BASE64_DIGITS = DigitsOf(BASE64_ALPHABET);
 constexpr DigitTable HEX_VALUES = HexTable();
+constexpr std::array<std::array<char, 2>, 256> HEX_PAIRS = HexPairs();
 
 std::uint8_t Digit(const DigitTable& table, char c) {
     return table[static_cast<unsigned char>(c)];
@@ -49,11 +60,6 @@ std::size_t SkipWhitespace(std::string_view text, std::size_t position) {
         ++position;
     }
     return position;
-}
-
-// Computed, not looked up, so that the compiler can do many at once.
-constexpr char HexDigit(int value) {
-    return static_cast<char>(value + (value > 9 ? 'A' - 10 : '0'));
 }
 
 constexpr unsigned char Byte(unsigned value) {
@@ -137,10 +143,10 @@ std::string PrintBase64(const std::vector<unsigned char>& bytes) {
 
 std::string PrintHex(const std::vector<unsigned char>& bytes) {
     std::string text(bytes.size() * 2, '0');
-    char* const output = text.data();
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        output[2 * i] = HexDigit(bytes[i] >> 4);
-        output[2 * i + 1] = HexDigit(bytes[i] & 0xF);
+    char* output = text.data();
+    for (const unsigned char byte : bytes) {
+        std::memcpy(output, HEX_PAIRS[byte].data(), 2);
+        output += 2;
     }
     return text;
 }
