@@ -66,7 +66,7 @@ std::int32_t iClockTime(std::int32_t iHours, std::int32_t iMinutes, std::int32_t
     if (!fgValid)
         return iInvalid;
     const std::int64_t iTime =
-        1000 * (std::int64_t{3600} * iHours + 60 * iMinutes + iSeconds) + iMilliseconds;
+        1000 * (std::int64_t{3600} * iHours + std::int64_t{60} * iMinutes + iSeconds) + iMilliseconds;
     return iTime <= std::numeric_limits<std::int32_t>::max() ? static_cast<std::int32_t>(iTime) : iInvalid;
 }
 

@@ -79,6 +79,8 @@ public:
     /// Initialises the XML library; every call needs its vXercesTerminate().
     static void vXercesInit();
     static void vXercesTerminate();
+    /// The document model's view of the held document; without a node when none is held.
+    const ttaf1_dfxp::tt::Cttaf1_dfxp& rGetDocumentRoot() const { return documentRoot_; }
     /// The xml:lang of the tt element; "INVALID" when it has none.
     std::string strGetDocLanguage() const;
 

@@ -1,0 +1,116 @@
+"""The floors of the house: includes run down only, no two files include each other, guards are named alike."""
+
+import pathlib
+import re
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+FLOORS = ["runtime", "xmltree", "binding", "style", "parser", "api", "tools"]
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+PLAYER_HEADER = "api/x_ttml.h"
+
+
+def read_includes(root):
+    """{file: [(quote, included name)]} of every source file of the floors, names relative to the root."""
+    files = {}
+    for floor in FLOORS:
+        for path in sorted((root / floor).rglob("*")):
+            if path.suffix in (".h", ".c", ".cpp", ".inc", ".def"):
+                files[path.relative_to(root).as_posix()] = INCLUDE.findall(path.read_text())
+    return files
+
+
+def floor_of(file):
+    return FLOORS.index(file.split("/")[0])
+
+
+def direction_faults(files):
+    """Own files included from above, by a path that is not written from the root, or that do not exist."""
+    for file, includes in files.items():
+        for quote, name in includes:
+            if quote == "<":
+                if name in files:
+                    yield f"{file} includes its own house's {name} in angle brackets"
+            elif name not in files:
+                yield f"{file} includes {name}, which is no file of the house"
+            elif floor_of(name) > floor_of(file):
+                yield f"{file} includes {name} from above"
+
+
+def cycle_faults(files):
+    """Files that include each other, directly or through others."""
+    done = set()
+
+    def visit(file, path):
+        if file in path:
+            yield "cycle: " + " -> ".join(path[path.index(file):] + [file])
+            return
+        if file in done:
+            return
+        for _, name in files[file]:
+            if name in files:
+                yield from visit(name, path + [file])
+        done.add(file)
+
+    for file in files:
+        yield from visit(file, [])
+
+
+def xml_library_faults(files):
+    """The XML library seen from the ground floor, or by a player."""
+    reachable, pending = set(), [PLAYER_HEADER]
+    while pending:
+        file = pending.pop()
+        if file in files and file not in reachable:
+            reachable.add(file)
+            pending += [name for _, name in files[file]]
+    for file, includes in files.items():
+        if (file in reachable or floor_of(file) == 0) and any(name.startswith("xercesc/") for _, name in includes):
+            yield f"{file} includes the XML library"
+
+
+def guard_faults(root, files):
+    """Headers whose include guard is not made from their path; a player includes his without its folder."""
+    for file in files:
+        if not file.endswith(".h"):
+            continue
+        guard = "XTTML_" + re.sub(r"\W", "_", file.replace(PLAYER_HEADER, "x_ttml.h")).upper()
+        if f"#ifndef {guard}\n#define {guard}\n" not in (root / file).read_text():
+            yield f"{file} is not guarded by {guard}"
+
+
+def faults(root):
+    files = read_includes(root)
+    return [*direction_faults(files), *cycle_faults(files), *xml_library_faults(files), *guard_faults(root, files)]
+
+
+class House(unittest.TestCase):
+    def test_this_house_is_in_order(self):
+        self.assertIn(PLAYER_HEADER, read_includes(ROOT))
+        self.assertEqual(faults(ROOT), [])
+
+    def test_faults_are_found(self):
+        guarded = "#ifndef XTTML_%s_H\n#define XTTML_%s_H\n%s#endif\n"
+        cases = {
+            "from above": {"style/a.cpp": '#include "parser/b.h"\n'},
+            "no file of the house": {"parser/a.cpp": '#include "b.h"\n'},
+            "angle brackets": {"parser/a.cpp": "#include <parser/b.h>\n"},
+            "cycle": {"style/c.h": guarded % ("STYLE_C", "STYLE_C", '#include "style/d.h"\n'),
+                      "style/d.h": guarded % ("STYLE_D", "STYLE_D", '#include "style/c.h"\n')},
+            "XML library": {"runtime/a.cpp": "#  include <xercesc/dom/DOM.hpp>\n"},
+            "is not guarded": {"style/c.h": "#pragma once\n"},
+        }
+        for fault, sources in cases.items():
+            with tempfile.TemporaryDirectory() as folder, self.subTest(fault):
+                root = pathlib.Path(folder)
+                sources["parser/b.h"] = guarded % ("PARSER_B", "PARSER_B", "")
+                for name, text in sources.items():
+                    (root / name).parent.mkdir(exist_ok=True)
+                    (root / name).write_text(text)
+                found = faults(root)
+                self.assertTrue(found and all(fault in line for line in found), found)
+
+
+if __name__ == "__main__":
+    unittest.main()

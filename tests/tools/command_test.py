@@ -1,0 +1,214 @@
+"""The tool's options, exit codes, inputs and outputs."""
+
+import os
+import subprocess
+import tempfile
+import unittest
+
+from tool_runs import (
+    DONE,
+    EXAMPLES,
+    FAILED,
+    TOOL,
+    WRONG_USAGE,
+    document,
+    environment,
+    json_of,
+    lines_of,
+    main,
+    output_of,
+    run,
+)
+
+FORCED = EXAMPLES / "forced.en.ttml"
+
+
+class Usage(unittest.TestCase):
+    def test_wrong_usage_ends_with_2_and_says_why(self):
+        for arguments in (
+            [],
+            ["show", FORCED],
+            ["list"],
+            ["list", FORCED, "more"],
+            ["list", FORCED, "--offset"],
+            ["list", FORCED, "--offset", "1.5"],
+            ["list", FORCED, "--offset", "2147483648"],
+            ["list", FORCED, "--combine"],
+            ["at", FORCED],
+            ["at", FORCED, "soon"],
+            ["at", FORCED, "1000", "-5"],
+            ["at", FORCED, "00:00:01:12"],
+            ["play", FORCED, "--from", "x"],
+            ["play", FORCED, "--step", "0"],
+            ["play", FORCED, "--from", "2s", "--to", "1s"],
+        ):
+            with self.subTest(arguments):
+                done = run(*arguments)
+                self.assertEqual((done.returncode, done.stdout), (WRONG_USAGE, b""))
+                self.assertRegex(done.stderr, rb"\Axttml: .+\nTry 'xttml --help'\.\n\Z")
+
+    def test_help_shows_examples_and_exit_codes(self):
+        for arguments in ([], ["list"], ["at"], ["play"]):
+            text = output_of(*arguments, "--help")
+            self.assertIn("Exit codes: 0", text)
+        self.assertIn("xttml at film.ttml 1500", output_of("--help"))
+
+    def test_version(self):
+        self.assertRegex(lines_of("--version")[0], r"\Axttml \d+\.\d+\.\d+\Z")
+
+
+class UnusableDocuments(unittest.TestCase):
+    def reason(self, arguments, data=b""):
+        done = run(*arguments, data=data)
+        self.assertEqual((done.returncode, done.stdout), (FAILED, b""))
+        lines = done.stderr.decode().split("\n")
+        self.assertEqual(lines[1:], [""], "one line")
+        prefix = f"xttml: {arguments[1]}: "
+        self.assertTrue(lines[0].startswith(prefix), lines[0])
+        return lines[0][len(prefix):]
+
+    def test_what_is_no_readable_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for file, reason in (
+                (f"{folder}/none.ttml", "No such file or directory"),
+                ("", "No such file or directory"),
+                (folder, "Is a directory"),
+                (f"{FORCED}/below", "Not a directory"),
+                ("http://127.0.0.1:1/film.ttml", "No such file or directory"),
+                ("file:///etc/passwd", "No such file or directory"),
+            ):
+                self.assertEqual(self.reason(["list", file]), reason)
+
+    def test_a_local_path_that_looks_like_an_address_stays_local(self):
+        with tempfile.TemporaryDirectory() as folder:
+            os.makedirs(f"{folder}/http:/127.0.0.1:1")
+            path = "http://127.0.0.1:1/film.ttml"
+            with open(f"{folder}/{path}", "wb") as file:
+                file.write(document(("1s", "2s", "here")))
+            self.assertIn(b"here", run("list", path, cwd=folder).stdout)
+
+    def test_what_is_no_usable_document(self):
+        cases = (
+            (b"", None),
+            (b"plain text", None),
+            (b"<tt><body>", None),
+            (b"<a/>", "no tt root element"),
+            (document(root=' ttp:frameRate="fast"'), "fast"),
+            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '), "maybe"),
+        )
+        for data, expected in cases:
+            with tempfile.NamedTemporaryFile(suffix=".ttml") as file, self.subTest(data):
+                if data.startswith(b"<?xml") and b"<p" not in data:
+                    data = data.replace(b"<div>", b"<div><p/>")
+                file.write(data)
+                file.flush()
+                for command in (["list"], ["play"], ["at", "0"]):
+                    from_file = self.reason([command[0], file.name, *command[1:]])
+                    from_memory = self.reason([command[0], "-", *command[1:]], data)
+                    self.assertEqual(from_file, from_memory)
+                    self.assertIn(expected or "Xerces SAX error while loading: ", from_file)
+
+    def test_control_characters_do_not_reach_the_terminal(self):
+        reason = self.reason(["list", "-"], b"<tt>\n</t\xc2\x9bt>")
+        self.assertFalse([c for c in reason if ord(c) < 32 or 127 <= ord(c) < 160], reason)
+
+
+class Inputs(unittest.TestCase):
+    def test_standard_input_gives_what_the_file_gives(self):
+        for example in sorted(EXAMPLES.glob("*.ttml")):
+            data = example.read_bytes()
+            for command in (["list"], ["list", "--json"], ["play"], ["at", "2s", "--json"]):
+                self.assertEqual(
+                    output_of(command[0], example, *command[1:]), output_of(command[0], "-", *command[1:], data=data)
+                )
+
+    def test_paths_in_any_script_under_any_locale(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for name in ("-film.ttml", "Größe 50%.ttml", "עברית.ttml", "100%25#1?.ttml"):
+                with open(f"{folder}/{name}", "wb") as file:
+                    file.write(document(("1s", "2s", "here")))
+                for locale in ("C", "C.UTF-8"):
+                    done = run("list", "--", name, cwd=folder, env=environment(LC_ALL=locale))
+                    self.assertEqual(done.returncode, DONE, done.stderr)
+                    self.assertIn(b"here", done.stdout)
+
+    def test_offset_moves_every_time(self):
+        data = document(("1s", "2s", "a"), (None, None, "b"))
+        for offset, times in ((500, [[1500, 2500], [499, 499]]), (-1500, [[-500, 500], [-1501, -1501]])):
+            listed = json_of("list", "-", "--offset", offset, data=data)
+            self.assertEqual([[item["begin"], item["end"]] for item in listed["items"]], times)
+        table = lines_of("list", "-", "--offset", "-1500", data=data)
+        self.assertRegex(table[2], r"-00:00:00\.500 +00:00:00\.500")
+
+    def test_many_items(self):
+        count = 3000
+        data = document(*((f"{i}s", f"{i}.9s", f"line {i}") for i in range(count)))
+        self.assertEqual(len(lines_of("list", "-", data=data)), count + 2)
+        listed = json_of("list", "-", data=data)
+        self.assertEqual([item["text"] for item in listed["items"]], [f"line {i}" for i in range(count)])
+        self.assertEqual(len(lines_of("play", "-", data=data)), 2 * count)
+
+
+class Texts(unittest.TestCase):
+    DATA = document(("1s", "2s", "a&#x9;b\nc<br/>d&#x85;&#x9B;[2J\U0001F600\u05D0 &lt;&amp;"))
+
+    def test_lines_show_breaks_and_no_control_character(self):
+        for command in (["list"], ["play"], ["at", "1s"]):
+            output = output_of(command[0], "-", *command[1:], data=self.DATA)
+            self.assertIn("a␉b⏎c⏎d\uFFFD\uFFFD[2J\U0001F600\u05D0 <&", output)
+
+    def test_json_holds_the_text_as_it_is(self):
+        item = json_of("list", "-", data=self.DATA)["items"][0]
+        self.assertEqual(item["text"], "a\tb\nc\nd\x85\x9b[2J\U0001F600\u05D0 <&")
+        self.assertEqual([run["lineBreak"] for run in item["runs"]], [False, True, False])
+
+    def test_document_without_items(self):
+        for data in (b'<tt xmlns="http://www.w3.org/ns/ttml"/>', document()):
+            self.assertIn("0 items", lines_of("list", "-", data=data)[0])
+            self.assertEqual(json_of("list", "-", data=data)["items"], [])
+            self.assertEqual(lines_of("play", "-", data=data), ["nothing comes on screen"])
+            self.assertIn("nothing to come", lines_of("at", "-", "0", data=data)[1])
+
+
+class LibraryLines(unittest.TestCase):
+    def test_verbose_shows_them_on_standard_error_only(self):
+        for file, data in ((FORCED, None), ("-", FORCED.read_bytes())):
+            quiet = run("list", file, data=data)
+            verbose = run("list", file, "--verbose", data=data)
+            self.assertEqual((quiet.stderr, quiet.stdout), (b"", verbose.stdout))
+            told = verbose.stderr.decode().splitlines()
+            self.assertEqual(told[0], "Initialize Xerces")
+            self.assertLess(told.index("load from file ok"), told.index("document start time 1000"))
+            self.assertEqual(told[-1], "Terminate Xerces")
+
+    def test_verbose_keeps_the_reason_of_a_failure_last(self):
+        told = run("list", "-", "--verbose", data=b"<a/>").stderr.decode().splitlines()
+        self.assertIn("load from file failed", told)
+        self.assertEqual(told[-1], "xttml: -: no tt root element")
+
+
+class FailingOutput(unittest.TestCase):
+    def check(self, done):
+        self.assertEqual(done.returncode, FAILED)
+        self.assertRegex(done.stderr, rb"\Axttml: cannot write to standard output: [^\n]+\n\Z")
+
+    def test_full_disk(self):
+        with open("/dev/full", "wb") as full:
+            for arguments in (["--help"], ["list", FORCED], ["list", FORCED, "--json"], ["play", FORCED]):
+                self.check(run(*arguments, output=full))
+
+    def test_reader_gone(self):
+        reader, writer = os.pipe()
+        os.close(reader)
+        self.check(run("list", FORCED, output=writer))
+        os.close(writer)
+
+    def test_closed(self):
+        done = subprocess.run(
+            ["sh", "-c", '"$@" >&-', "sh", str(TOOL), "list", str(FORCED)], stderr=subprocess.PIPE, check=False
+        )
+        self.check(done)
+
+
+if __name__ == "__main__":
+    main()

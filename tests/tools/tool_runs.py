@@ -1,0 +1,83 @@
+"""Runs the tool for the tests: its path is the last argument of the test program."""
+
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+TOOL = pathlib.Path(sys.argv[-1]).resolve() if len(sys.argv) > 1 else None
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+EXAMPLES = ROOT / "examples"
+
+DONE, FAILED, WRONG_USAGE = 0, 1, 2
+
+SANITIZER_REPORT = re.compile(rb"ERROR: (Address|Leak)Sanitizer|runtime error:")
+LIBRARY_LINE = re.compile(
+    rb"^(Initialize Xerces|Terminate Xerces|loadFromFile |load from file|LoadFromFile|XercesTree|declare parser"
+    rb"|parse OK|vGenerate|document (start|end) time|Close Document|Document Closed|destruct Parser)",
+    re.MULTILINE,
+)
+
+HEAD = (
+    '<?xml version="1.0" encoding="UTF-8"?><tt xmlns="http://www.w3.org/ns/ttml" '
+    'xmlns:tts="http://www.w3.org/ns/ttml#styling" xmlns:ttp="http://www.w3.org/ns/ttml#parameter" '
+    'xmlns:cff="http://www.decellc.org/schema/2012/01/cff-tt-meta"%s><body><div>'
+)
+
+
+def document(*paragraphs, root=""):
+    """A document of paragraphs (begin, end, content); None leaves an attribute out."""
+    lines = []
+    for begin, end, content in paragraphs:
+        times = "".join(f' {name}="{value}"' for name, value in (("begin", begin), ("end", end)) if value)
+        lines.append(f"<p{times}>{content}</p>")
+    return (HEAD % root + "\n".join(lines) + "</div></body></tt>").encode()
+
+
+def run(*arguments, data=None, output=subprocess.PIPE, **options):
+    """Runs the tool; fails on a sanitizer report, a signal and a line of the library on standard output."""
+    done = subprocess.run(
+        [str(TOOL), *map(str, arguments)],
+        input=b"" if data is None else data,
+        stdout=output,
+        stderr=subprocess.PIPE,
+        timeout=300,
+        check=False,
+        **options,
+    )
+    if SANITIZER_REPORT.search(done.stderr) or done.returncode not in (DONE, FAILED, WRONG_USAGE):
+        raise AssertionError(f"xttml {arguments}: {done.returncode}\n{done.stderr.decode(errors='replace')}")
+    if LIBRARY_LINE.search(done.stdout or b""):
+        raise AssertionError(f"xttml {arguments}: a line of the library among\n{done.stdout.decode()}")
+    return done
+
+
+def output_of(*arguments, data=None):
+    """What a run writes that succeeds and complains about nothing."""
+    done = run(*arguments, data=data)
+    if done.returncode != DONE or done.stderr:
+        raise AssertionError(f"xttml {arguments}: {done.returncode}\n{done.stderr.decode(errors='replace')}")
+    return done.stdout.decode("utf-8")
+
+
+def lines_of(*arguments, data=None):
+    """The lines of such a run."""
+    return output_of(*arguments, data=data).removesuffix("\n").split("\n")
+
+
+def json_of(*arguments, data=None):
+    """The value that such a run writes with --json."""
+    return json.loads(output_of(*arguments, "--json", data=data))
+
+
+def environment(**changes):
+    """This process's environment with some variables set."""
+    return {**os.environ, **changes}
+
+
+def main():
+    """Runs the tests of the calling module."""
+    unittest.main(argv=sys.argv[:1])
