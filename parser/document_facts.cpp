@@ -62,6 +62,8 @@ void TtmlParser::vReadRootExtent() {
         strExtent && fgGetDoubleLength(*strExtent, fWidth, fHeight, eUnit) && eUnit == LENGTH_UNIT_PX;
     iExtentWidth_ = fgPixels ? static_cast<std::int32_t>(uWholePixels(fWidth)) : iDefaultWidth;
     iExtentHeight_ = fgPixels ? static_cast<std::int32_t>(uWholePixels(fHeight)) : iDefaultHeight;
+    rootStyling_.uExtentWidth = static_cast<std::uint32_t>(iExtentWidth_);
+    rootStyling_.uExtentHeight = static_cast<std::uint32_t>(iExtentHeight_);
 }
 
 TimeRates TtmlParser::rReadTimeRates() const {
@@ -74,17 +76,9 @@ TimeRates TtmlParser::rReadTimeRates() const {
     return rates;
 }
 
-const StylingAttrib* TtmlParser::prReadRegion(const std::optional<std::string>& strId,
-                                              StylingAttrib& styling) const {
-    if (!strId) {
-        styling.uExtentWidth = static_cast<std::uint32_t>(iExtentWidth_);
-        styling.uExtentHeight = static_cast<std::uint32_t>(iExtentHeight_);
-        return nullptr;
-    }
-    const StylingAttrib* const pRegion = prGetRegionByID(*strId);
-    if (pRegion)
-        styling = *pRegion;
-    return pRegion;
+const StylingAttrib& TtmlParser::rOrDefault(const StylingAttrib* pAttrib) {
+    static const StylingAttrib byDefault;
+    return pAttrib ? *pAttrib : byDefault;
 }
 
 // Wraps in 32 bits.

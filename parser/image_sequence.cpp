@@ -111,7 +111,8 @@ void TtmlParser::vAppendImage(const Cdiv_eltype& division, const TimeRates& rate
     const std::int32_t iBegin = iGetTimeFromString(division.begin, rates.iFrameRate, rates.fTickRate);
     const std::int32_t iEnd = iGetTimeFromString(division.end, rates.iFrameRate, rates.fTickRate);
     item->vSetTime(iShifted(iBegin, iOffset), iShifted(iEnd, iOffset));
-    prReadRegion(division.region.value(), item->styling);
+    const std::optional<std::string> strRegion = division.region.value();
+    item->styling = strRegion ? rOrDefault(prGetRegionByID(*strRegion)) : rootStyling_;
     const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
     vReadGeometry(division, PairOutcome::UNCHANGED, area, item->styling);
     if (fgReadForced)

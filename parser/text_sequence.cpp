@@ -90,17 +90,17 @@ private:
     Text& text_;
 };
 
-/// Lays a style over the styling of a region. What the style did not give stays as it was; the area stays in
-/// any case, and so does the weight under a style that is not bold.
-void vMergeStyle(const StylingAttrib& style, StylingAttrib& styling) {
-    StylingAttrib merged = style;
-    merged.uExtentWidth = styling.uExtentWidth;
-    merged.uExtentHeight = styling.uExtentHeight;
-    merged.uOriginX = styling.uOriginX;
-    merged.uOriginY = styling.uOriginY;
+/// A style laid over the styling of a region. What the style did not give is the region's; so is the area in
+/// any case, and the weight under a style that is not bold.
+void vLayStyleOver(const StylingAttrib& region, const StylingAttrib& style, StylingAttrib& styling) {
+    styling = style;
+    styling.uExtentWidth = region.uExtentWidth;
+    styling.uExtentHeight = region.uExtentHeight;
+    styling.uOriginX = region.uOriginX;
+    styling.uOriginY = region.uOriginY;
     const auto vKeep = [&](bool fgSet, auto StylingAttrib::*pField) {
         if (!fgSet)
-            merged.*pField = std::move(styling.*pField);
+            styling.*pField = region.*pField;
     };
     vKeep(style.fgColorSet, &StylingAttrib::strColor);
     vKeep(style.fgFontSizeSet, &StylingAttrib::uFontSize);
@@ -111,7 +111,6 @@ void vMergeStyle(const StylingAttrib& style, StylingAttrib& styling) {
     vKeep(style.fgTextDecorationSet, &StylingAttrib::eTextDecoration);
     vKeep(style.fgVisibilitySet, &StylingAttrib::iVisibility);
     vKeep(style.fgDisplayAlignSet, &StylingAttrib::eDisplayAlign);
-    styling = std::move(merged);
 }
 
 std::int32_t iReadTime(const std::optional<std::string>& strTime, const TimeRates& rates) {
@@ -188,8 +187,7 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
 std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph) const {
     auto item = std::make_unique<TextItem>();
     fgRead(paragraph.forcedDisplayMode, [&](bool fgForced) { item->fgForcedDisplay = fgForced; });
-    item->pRegionAttrib = prReadRegion(paragraph.region.value(), item->styling);
-    vReadStyle(paragraph, *item);
+    vReadRegionAndStyle(paragraph, *item);
     const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
     vReadGeometry(paragraph, PairOutcome::UNCHANGED, area, item->styling);
     vReadStyling(paragraph, paragraphRules, item->styling);
@@ -197,10 +195,14 @@ std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph) 
     return item;
 }
 
-void TtmlParser::vReadStyle(const Cp_eltype& paragraph, TextItem& item) const {
-    const std::optional<std::string> strId = paragraph.style.value();
-    if (!strId)
-        return;
-    item.pStyleAttrib = prGetStyleByID(*strId);
-    vMergeStyle(item.pStyleAttrib ? *item.pStyleAttrib : StylingAttrib(), item.styling);
+void TtmlParser::vReadRegionAndStyle(const Cp_eltype& paragraph, TextItem& item) const {
+    const std::optional<std::string> strRegion = paragraph.region.value();
+    const std::optional<std::string> strStyle = paragraph.style.value();
+    item.pRegionAttrib = strRegion ? prGetRegionByID(*strRegion) : nullptr;
+    item.pStyleAttrib = strStyle ? prGetStyleByID(*strStyle) : nullptr;
+    const StylingAttrib& region = strRegion ? rOrDefault(item.pRegionAttrib) : rootStyling_;
+    if (strStyle)
+        vLayStyleOver(region, rOrDefault(item.pStyleAttrib), item.styling);
+    else
+        item.styling = region;
 }

@@ -179,8 +179,7 @@ private:
     std::optional<ttaf1_dfxp::tt::Cbody_eltype> rFindBodyWithDivision() const;
     void vReadRootExtent();
     TimeRates rReadTimeRates() const;
-    // Styles a fresh item by its region, or by the root extent when it names none.
-    const StylingAttrib* prReadRegion(const std::optional<std::string>& strId, StylingAttrib& styling) const;
+    static const StylingAttrib& rOrDefault(const StylingAttrib* pAttrib);
     static std::int32_t iShifted(std::int32_t iTime, std::int32_t iOffset);
     void vAppend(std::unique_ptr<DisplayItem> item);
     void vResetDocumentTime();
@@ -188,7 +187,7 @@ private:
     void vWriteDocumentTime() const;
 
     std::unique_ptr<TextItem> rMakeTextItem(const ttaf1_dfxp::tt::Cp_eltype& paragraph) const;
-    void vReadStyle(const ttaf1_dfxp::tt::Cp_eltype& paragraph, TextItem& item) const;
+    void vReadRegionAndStyle(const ttaf1_dfxp::tt::Cp_eltype& paragraph, TextItem& item) const;
     void vAppendImage(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset,
                       bool fgReadForced);
     bool fgItemsUseDocumentBuffer() const;
@@ -210,7 +209,8 @@ private:
     std::array<ImageTableEntry, 30> aImageTable_;
     ttaf1_dfxp::tt::Cttaf1_dfxp documentRoot_;
     std::vector<std::vector<std::uint8_t>> vecEarlierBuffers_; // that items point into
-    TimeIndex timeIndex_; // of the sequence as the last completed generation left it
+    StylingAttrib rootStyling_; // of an item that names no region: the default on the root extent
+    TimeIndex timeIndex_;       // of the sequence as the last completed generation left it
 };
 
 #endif

@@ -36,6 +36,7 @@ public:
     /// Walks all children of a node, in document order. The walk has ended when CurrentNode() is null.
     class AllIterator {
     public:
+        /// Stands on `node`, which may be null.
         explicit AllIterator(xercesc::DOMNode* node) : current(node) {}
 
         /// The node that the walk stands on; null at the end.
@@ -109,10 +110,9 @@ public:
     /// Never null.
     static const tessera::XmlFormatter* GetFormatter(const tessera::MemberInfo& member);
 
-    /// @name Typed reads
+    /// @{
     /// GetTextValue, converted by the tessera::CoreTypes conversion of the same name, whose exceptions pass.
     /// The member is consulted by CastToBinary only.
-    /// @{
     static std::string CastToString(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
     static bool CastToBool(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
     static int CastToInt(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
@@ -161,11 +161,13 @@ public:
     /// Replaces all children, which are released, by one text node.
     static void SetTextValue(xercesc::DOMNode* node, const std::string& value);
 
+    /// @{
     /// Sets the attribute of an element that the member names, replacing the one that is there, under the
     /// prefix in scope for its namespace or an unused one, which the serialiser declares. For the text
     /// content: as SetTextValue. A null value counts as the empty string.
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, const XMLCh* value);
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, const std::string& value);
+    /// @}
     /// Keeps string literals from being taken for a bool.
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, const char* value) {
         SetValue(node, member, std::string(value ? value : ""));
@@ -173,9 +175,8 @@ public:
     /// The text of another node becomes the value.
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member,
                          const xercesc::DOMNode* source);
-    /// @name Typed writes
-    /// The member's formatter writes the value; what it throws passes.
     /// @{
+    /// The member's formatter writes the value; what it throws passes.
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, bool value);
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, int value);
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, unsigned int value);
@@ -203,7 +204,9 @@ public:
     static void SetAttribute(xercesc::DOMNode* node, const std::string& name, const std::string& namespaceURI,
                              const std::string& valueLocalName, const std::string& valueNamespace);
 
-    // Saving. Each throws tessera::DataTargetUnavailableException when the document cannot be written.
+    // Saving. Each throws tessera::DataTargetUnavailableException when the document cannot be written. The XML
+    // library's serialiser calls itself for every level of elements: a document nested some ten thousand levels
+    // deep needs a larger stack.
 
     /// Replaces `data` by the serialised document. With `applyEncoding` the document is written in `encoding`
     /// and its byte order and byte order mark are made the ones asked for; without, the three arguments
@@ -225,11 +228,13 @@ public:
 
     // Encodings of serialised documents.
 
+    /// @{
     /// What the first bytes of a document tell of its encoding; 0 when nothing was recognised. Bits 0-3: size
     /// of a code unit in bytes. 0x10: there is a byte order mark. 0x20: big-endian. Bits 8-11: length of the
     /// mark in bytes.
     static int GetEncodingAndByteOrderFromXml(const unsigned char* data, int size);
     static int GetEncodingAndByteOrderFromXml(const std::vector<unsigned char>& data);
+    /// @}
     /// The string with every byte passed through the C library's toupper.
     static std::string Uppercase(const std::string& s);
     /// The size of a code unit in bytes: 1 for a name that contains UTF-8, 2 for UTF-16 and UCS-2, in any
@@ -240,15 +245,6 @@ public:
     static void CorrectByteOrderAndBOM(std::vector<unsigned char>& data, const std::string& encoding,
                                        bool bigEndian, bool withBOM);
 };
-
-/// The prefix that is bound to a namespace at a node: the outermost of those declared there or above and not
-/// rebound in between. Empty when there is none; a default declaration is no prefix.
-std::string FindPrefixForNamespace(const xercesc::DOMNode* node, const std::string& namespaceURI);
-
-/// A prefix for a new declaration on `node`: the first of the row base, base1, base2 ... (n0, n1, n2 ... for
-/// an empty base) that the element does not declare, moved on in the row by every element above that declares
-/// it; the elements below that one are not asked again. Empty when the node stands in no document.
-std::string GetUnusedPrefix(const xercesc::DOMNode* node, const std::string& base);
 
 inline bool XercesTreeOperations::IsEqualString(const XMLCh* utf16, const char* chars) {
     if (!utf16 || !chars) {
