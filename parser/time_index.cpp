@@ -10,7 +10,7 @@ constexpr std::uint32_t uNoItem = UINT32_MAX;
 constexpr std::size_t uPiecesAStep = 4;
 
 /// The first piece from uPiece on that no item has taken yet; shortens the way for the next call.
-std::size_t uNextFree(std::vector<std::size_t>& vecNext, std::size_t uPiece) {
+std::uint32_t uNextFree(std::vector<std::uint32_t>& vecNext, std::uint32_t uPiece) {
     while (vecNext[uPiece] != uPiece) {
         vecNext[uPiece] = vecNext[vecNext[uPiece]];
         uPiece = vecNext[uPiece];
@@ -22,10 +22,14 @@ std::size_t uNextFree(std::vector<std::size_t>& vecNext, std::size_t uPiece) {
 
 void TimeIndex::vBuild(const std::vector<DisplayItem*>& vecItems) {
     vClear();
-    vCutTimeLine(vecItems);
+    std::vector<Span> vecSpans;
+    vecSpans.reserve(vecItems.size());
+    for (const DisplayItem* pItem : vecItems)
+        vecSpans.push_back({pItem->iGetBeginTime(), pItem->iGetEndTime()});
+    vCutTimeLine(vecSpans);
     vMakeDirectory();
-    vAssignItemsOnScreen(vecItems);
-    vAssignItemsToCome(vecItems);
+    vAssignItemsOnScreen(vecSpans);
+    vAssignItemsToCome(vecSpans);
     uItemCount_ = vecItems.size();
 }
 
@@ -36,13 +40,13 @@ void TimeIndex::vClear() {
 }
 
 // Cut at 0 as well, where the order of unsigned times begins anew.
-void TimeIndex::vCutTimeLine(const std::vector<DisplayItem*>& vecItems) {
+void TimeIndex::vCutTimeLine(const std::vector<Span>& vecSpans) {
     std::vector<std::int32_t> vecCuts = {INT32_MIN, 0};
-    vecCuts.reserve(2 + 2 * vecItems.size());
-    for (const DisplayItem* pItem : vecItems) {
-        vecCuts.push_back(pItem->iGetBeginTime());
-        if (pItem->iGetEndTime() < INT32_MAX)
-            vecCuts.push_back(pItem->iGetEndTime() + 1);
+    vecCuts.reserve(2 + 2 * vecSpans.size());
+    for (const Span& span : vecSpans) {
+        vecCuts.push_back(span.iBegin);
+        if (span.iEnd < INT32_MAX)
+            vecCuts.push_back(span.iEnd + 1);
     }
     if (!std::is_sorted(vecCuts.begin(), vecCuts.end()))
         std::sort(vecCuts.begin(), vecCuts.end());
@@ -68,35 +72,37 @@ void TimeIndex::vMakeDirectory() {
 }
 
 // In sequence order, each item takes the pieces of its span that no earlier one has.
-void TimeIndex::vAssignItemsOnScreen(const std::vector<DisplayItem*>& vecItems) {
-    std::vector<std::size_t> vecNext(vecPieces_.size() + 1); // a free piece points to itself
-    std::iota(vecNext.begin(), vecNext.end(), std::size_t{0});
-    for (std::size_t i = 0; i < vecItems.size(); ++i) {
-        std::size_t uPiece = uNextFree(vecNext, uPieceAt(vecItems[i]->iGetBeginTime()));
-        while (uPiece < vecPieces_.size() && vecPieces_[uPiece].iBegin <= vecItems[i]->iGetEndTime()) {
-            vecPieces_[uPiece].uItem = static_cast<std::uint32_t>(i);
+void TimeIndex::vAssignItemsOnScreen(const std::vector<Span>& vecSpans) {
+    std::vector<std::uint32_t> vecNext(vecPieces_.size() + 1); // a free piece points to itself
+    std::iota(vecNext.begin(), vecNext.end(), 0U);
+    std::uint32_t uItem = 0;
+    for (const Span& span : vecSpans) {
+        std::uint32_t uPiece = uNextFree(vecNext, static_cast<std::uint32_t>(uPieceAt(span.iBegin)));
+        while (uPiece < vecPieces_.size() && vecPieces_[uPiece].iBegin <= span.iEnd) {
+            vecPieces_[uPiece].uItem = uItem;
             vecNext[uPiece] = uPiece + 1;
             uPiece = uNextFree(vecNext, uPiece + 1);
         }
+        ++uItem;
     }
 }
 
-// The first item to begin later is the first that raises the largest begin so far above the time.
-void TimeIndex::vAssignItemsToCome(const std::vector<DisplayItem*>& vecItems) {
-    std::vector<std::uint32_t> vecLatestBegin;
-    vecLatestBegin.reserve(vecItems.size());
-    for (const DisplayItem* pItem : vecItems) {
-        const auto uBegin = static_cast<std::uint32_t>(pItem->iGetBeginTime());
-        vecLatestBegin.push_back(vecLatestBegin.empty() ? uBegin : std::max(vecLatestBegin.back(), uBegin));
-    }
-    for (Piece& piece : vecPieces_) {
-        if (piece.uItem != uNoItem)
-            continue;
-        const auto uBegin = static_cast<std::uint32_t>(piece.iBegin);
-        const auto later = std::upper_bound(vecLatestBegin.begin(), vecLatestBegin.end(), uBegin);
-        if (later != vecLatestBegin.end())
-            piece.uItem = static_cast<std::uint32_t>(later - vecLatestBegin.begin());
-    }
+// In the order of unsigned times the first item that begins later can only move on in the sequence.
+void TimeIndex::vAssignItemsToCome(const std::vector<Span>& vecSpans) {
+    std::uint32_t uItem = 0;
+    const auto vAssign = [&](std::size_t uPiece, std::size_t uEnd) {
+        for (; uPiece < uEnd; ++uPiece) {
+            Piece& piece = vecPieces_[uPiece];
+            while (uItem < vecSpans.size() && static_cast<std::uint32_t>(vecSpans[uItem].iBegin) <=
+                                                  static_cast<std::uint32_t>(piece.iBegin))
+                ++uItem;
+            if (piece.uItem == uNoItem && uItem < vecSpans.size())
+                piece.uItem = uItem;
+        }
+    };
+    const std::size_t uZero = uPieceAt(0);
+    vAssign(uZero, vecPieces_.size());
+    vAssign(0, uZero);
 }
 
 /// The piece that a time lies in.

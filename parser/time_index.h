@@ -25,15 +25,20 @@ public:
     std::optional<std::size_t> rFind(std::uint32_t uTime) const;
 
 private:
+    /// The times of an item.
+    struct Span {
+        std::int32_t iBegin;
+        std::int32_t iEnd;
+    };
     /// A stretch of time up to the next piece's begin.
     struct Piece {
         std::int32_t iBegin;
         std::uint32_t uItem; // the answer
     };
 
-    void vCutTimeLine(const std::vector<DisplayItem*>& vecItems);
-    void vAssignItemsOnScreen(const std::vector<DisplayItem*>& vecItems);
-    void vAssignItemsToCome(const std::vector<DisplayItem*>& vecItems);
+    void vCutTimeLine(const std::vector<Span>& vecSpans);
+    void vAssignItemsOnScreen(const std::vector<Span>& vecSpans);
+    void vAssignItemsToCome(const std::vector<Span>& vecSpans);
     void vMakeDirectory();
     std::size_t uPieceAt(std::int32_t iTime) const;
 
