@@ -1,0 +1,114 @@
+// The time from loading the library to its first answer, in processes of their own, beside the bare parse of
+// the same document from the start of the XML library on.
+#include "api/x_ttml.h"
+#include "bench/bare_parse.h"
+#include "bench/subtitle_document.h"
+
+#include <xercesc/util/PlatformUtils.hpp>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <dlfcn.h>
+
+namespace {
+
+constexpr int paragraphs = 2000;
+constexpr int rounds = 15;
+
+using Clock = std::chrono::steady_clock;
+
+template <class Function>
+Function* Find(void* library, const char* name) {
+    void* const address = dlsym(library, name);
+    if (!address)
+        throw std::runtime_error(dlerror());
+    return reinterpret_cast<Function*>(address);
+}
+
+void AnswerOnce(const char* path, const std::string& text) {
+    void* const library = dlopen(path, RTLD_NOW);
+    if (!library)
+        throw std::runtime_error(dlerror());
+    x_ttml_handle handle = nullptr;
+    Find<decltype(x_ttml_init_xerces)>(library, "x_ttml_init_xerces")();
+    Find<decltype(x_ttml_create_new_parser)>(library, "x_ttml_create_new_parser")(&handle);
+    Find<decltype(x_ttml_load_subtitle_from_data)>(library, "x_ttml_load_subtitle_from_data")(
+        handle, text.data(), static_cast<uint32_t>(text.size()));
+    Find<decltype(x_ttml_generate_text_display_item_sequence)>(
+        library, "x_ttml_generate_text_display_item_sequence")(handle, 0);
+    if (!Find<decltype(x_ttml_get_display_item_by_time)>(library, "x_ttml_get_display_item_by_time")(handle,
+                                                                                                     1000))
+        throw std::runtime_error("no item");
+}
+
+void ParseOnce(const std::string& text) {
+    xercesc::XMLPlatformUtils::Initialize();
+    BareParse(text);
+}
+
+/// Does one of both and tells the microseconds on standard error.
+void Work(const char* library) {
+    const std::string text = SubtitleDocument(paragraphs);
+    if (!std::freopen("/dev/null", "w", stdout))
+        throw std::runtime_error("cannot drop standard output");
+    const Clock::time_point start = Clock::now();
+    if (library)
+        AnswerOnce(library, text);
+    else
+        ParseOnce(text);
+    std::cerr << std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start).count() << "\n";
+}
+
+/// The microseconds of a run of this program.
+long Run(const std::string& command) {
+    std::FILE* const output = popen((command + " 2>&1").c_str(), "r");
+    char line[64] = "";
+    const bool answered = output && std::fgets(line, sizeof line, output);
+    if (!output || pclose(output) != 0 || !answered)
+        throw std::runtime_error(command + " failed");
+    return std::atol(line);
+}
+
+long Median(std::vector<long> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void Compare(const std::string& program, const std::string& library) {
+    std::vector<long> answers;
+    std::vector<long> parses;
+    for (int i = 0; i < rounds; ++i) {
+        answers.push_back(Run(program + " --answer " + library));
+        parses.push_back(Run(program + " --parse"));
+    }
+    const long answer = Median(answers);
+    const long parse = Median(parses);
+    std::cerr << "ratio first answer from dlopen on : bare parse, " << paragraphs
+              << " paragraphs = " << answer << " us : " << parse
+              << " us = " << static_cast<double>(answer) / static_cast<double>(parse) << "\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const std::string task = argc > 1 ? argv[1] : "";
+        if (task == "--answer" && argc == 3)
+            Work(argv[2]);
+        else if (task == "--parse")
+            Work(nullptr);
+        else
+            Compare(argv[0], XTTML_LIBRARY);
+    } catch (const std::exception& exception) {
+        std::cerr << exception.what() << "\n";
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
