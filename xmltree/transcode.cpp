@@ -16,6 +16,10 @@ void AppendNarrowed(std::string& target, const XMLCh* utf16) {
                    [](XMLCh unit) { return static_cast<char>(unit & 0xFF); });
 }
 
+// Narrowing is the conversion from one unit to one char.
+XercesUnstringTemp::XercesUnstringTemp(const XMLCh* utf16)
+    : std::string(utf16, utf16 + XMLString::stringLen(utf16)) {}
+
 XercesStringTemp::XercesStringTemp(const char* chars)
     : rawTranscode(XMLString::transcode(chars, XMLPlatformUtils::fgMemoryManager)) {
     if (rawTranscode) {

@@ -6,8 +6,6 @@
 #ifndef XTTML_XMLTREE_TRANSCODE_H
 #define XTTML_XMLTREE_TRANSCODE_H
 
-#include "runtime/export.h"
-
 #include <xercesc/util/XercesDefs.hpp>
 
 #include <memory>
@@ -16,11 +14,11 @@
 static_assert(sizeof(XMLCh) == 2, "the XML library's strings are UTF-16");
 
 /// Appends the low 8 bits of every code unit of `utf16`, a zero-terminated string; null appends nothing.
-XTTML_API void AppendNarrowed(std::string& target, const XMLCh* utf16);
+void AppendNarrowed(std::string& target, const XMLCh* utf16);
 
 /// A 16-bit copy of an 8-bit string, for the length of one call into the XML library, which must be
 /// initialised. Throws what the XML library's transcoder throws.
-class XTTML_API XercesStringTemp {
+class XercesStringTemp {
 public:
     /// Transcodes a zero-terminated string; null counts as the empty string.
     explicit XercesStringTemp(const char* chars);
@@ -43,10 +41,10 @@ private:
 };
 
 /// The 8-bit copy of a 16-bit string: the low 8 bits of every code unit.
-class XTTML_API XercesUnstringTemp : public std::string {
+class XercesUnstringTemp : public std::string {
 public:
     /// Takes a zero-terminated string; null gives the empty string.
-    explicit XercesUnstringTemp(const XMLCh* utf16) { AppendNarrowed(*this, utf16); }
+    explicit XercesUnstringTemp(const XMLCh* utf16);
 };
 
 #endif
