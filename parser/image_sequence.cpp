@@ -47,9 +47,10 @@ void TtmlParser::vGenerateImageDisplaySequence(int iOffset) {
     vReadRootExtent();
     vGenerateRegionAttribSequence();
     vGenerateStyleAttribSequence();
+    const TimeRates rates = rReadTimeRates(); // once: to reach the root is to pass all that stands before it
     auto itrDivision = body->div.all();
     for (; itrDivision.CurrentNode(); ++itrDivision)
-        vGetImageItem(itrDivision, iOffset);
+        vAppendImages(itrDivision, rates, iOffset);
     vResetDocumentTime();
     for (const DisplayItem* pItem : vecDisplaySequence_)
         vExtendDocumentTime(*pItem);
@@ -89,7 +90,10 @@ std::uint32_t TtmlParser::uGetImageIndex(const std::string& strReference) {
 }
 
 void TtmlParser::vGetImageItem(Cdiv_eltype division, int iOffset) {
-    const TimeRates rates = rReadTimeRates();
+    vAppendImages(division, rReadTimeRates(), iOffset);
+}
+
+void TtmlParser::vAppendImages(const Cdiv_eltype& division, const TimeRates& rates, int iOffset) {
     if (division.backgroundImage.exists()) {
         vAppendImage(division, rates, iOffset, false);
         return;

@@ -188,9 +188,11 @@ std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph) 
     auto item = std::make_unique<TextItem>();
     fgRead(paragraph.forcedDisplayMode, [&](bool fgForced) { item->fgForcedDisplay = fgForced; });
     vReadRegionAndStyle(paragraph, *item);
-    const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
-    vReadGeometry(paragraph, PairOutcome::UNCHANGED, area, item->styling);
-    vReadStyling(paragraph, paragraphRules, item->styling);
+    if (paragraph.color.namespaceExists()) { // most paragraphs have no tts: attribute at all
+        const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
+        vReadGeometry(paragraph, PairOutcome::UNCHANGED, area, item->styling);
+        vReadStyling(paragraph, paragraphRules, item->styling);
+    }
     vReadContent(*paragraph.GetNode(), *item);
     return item;
 }

@@ -188,6 +188,7 @@ private:
 
     std::unique_ptr<TextItem> rMakeTextItem(const ttaf1_dfxp::tt::Cp_eltype& paragraph) const;
     void vReadRegionAndStyle(const ttaf1_dfxp::tt::Cp_eltype& paragraph, TextItem& item) const;
+    void vAppendImages(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset);
     void vAppendImage(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset,
                       bool fgReadForced);
     bool fgItemsUseDocumentBuffer() const;

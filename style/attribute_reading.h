@@ -3,6 +3,7 @@
 #ifndef XTTML_STYLE_ATTRIBUTE_READING_H
 #define XTTML_STYLE_ATTRIBUTE_READING_H
 
+#include "style/keywords.h"
 #include "style/styling_attrib.h"
 
 #include <cstdint>
@@ -91,8 +92,6 @@ bool fgReadLength(const Attribute& attribute, const LengthRule& rule, const std:
 /// @param base what percentages are of
 template <class Element>
 void vReadGeometry(const Element& element, PairOutcome eOther, const Extent& base, StylingAttrib& attrib) {
-    if (!element.extent.namespaceExists())
-        return;
     fgRead(element.extent, [&](const std::string& strText) {
         vReadPair(strText, eOther, base, attrib.uExtentWidth, attrib.uExtentHeight);
     });
@@ -105,8 +104,6 @@ void vReadGeometry(const Element& element, PairOutcome eOther, const Extent& bas
 /// font size comes before the line height, whatever order the document has.
 template <class Element>
 void vReadStyling(const Element& element, const ReadingRules& rules, StylingAttrib& attrib) {
-    if (!element.color.namespaceExists()) // most elements have no tts: attribute at all
-        return;
     StylingAttrib& a = attrib;
     const auto vMark = [&rules](bool fgPresent, bool& fgFlag) {
         if (rules.fgMarkSet)

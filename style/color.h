@@ -10,9 +10,9 @@
 
 /// A colour in four components of 0 to 255; opaque white by default.
 struct RgbaColor {
-    std::uint16_t uRed = 255;
-    std::uint16_t uGreen = 255;
-    std::uint16_t uBlue = 255;
+    std::uint16_t uRed = 255;   ///< 0 to 255
+    std::uint16_t uGreen = 255; ///< 0 to 255
+    std::uint16_t uBlue = 255;  ///< 0 to 255
     std::uint16_t uAlpha = 255; ///< 0: fully transparent, 255: fully opaque
 };
 

@@ -4,6 +4,7 @@
 
 #include <iostream>
 #include <limits>
+#include <new>
 
 #include <regex.h>
 
@@ -16,8 +17,13 @@ constexpr char lengthPattern[] = "^[0-9]+(\\.[0-9]+)?(px|%|c|em)$";
 /// A pattern that is compiled once for the life of the process.
 class CompiledPattern {
 public:
-    explicit CompiledPattern(const char* pattern)
-        : fgValid_(regcomp(&expression_, pattern, REG_EXTENDED | REG_NOSUB) == 0) {}
+    /// Throws std::bad_alloc, so that the next length compiles the pattern after all.
+    explicit CompiledPattern(const char* pattern) {
+        const int iError = regcomp(&expression_, pattern, REG_EXTENDED | REG_NOSUB);
+        if (iError == REG_ESPACE)
+            throw std::bad_alloc();
+        fgValid_ = iError == 0;
+    }
     ~CompiledPattern() {
         if (fgValid_)
             regfree(&expression_);
@@ -113,13 +119,4 @@ bool fgGetDoubleLength(const std::string& strText, float& fFirst, float& fSecond
 
 float fStr2Float(const std::string& strText) {
     return fNarrow(tessera::ReadDouble(strText.c_str()));
-}
-
-std::uint32_t uWholePixels(float fValue) {
-    constexpr float fTooLarge = 4294967296.0F;
-    if (!(fValue > 0))
-        return 0;
-    if (fValue >= fTooLarge)
-        return std::numeric_limits<std::uint32_t>::max();
-    return static_cast<std::uint32_t>(fValue);
 }

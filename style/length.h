@@ -5,6 +5,7 @@
 #include "runtime/export.h"
 
 #include <cstdint>
+#include <limits>
 #include <string>
 
 /// The unit of a length.
@@ -39,6 +40,13 @@ XTTML_API float fStr2Float(const std::string& strText);
 
 /// A length in whole pixels: truncated toward zero, clamped to 4294967295; NaN gives 0.
 /// @param fValue the length in px, 0 or more
-std::uint32_t uWholePixels(float fValue);
+inline std::uint32_t uWholePixels(float fValue) {
+    constexpr float fTooLarge = 4294967296.0F;
+    if (!(fValue > 0))
+        return 0;
+    if (fValue >= fTooLarge)
+        return std::numeric_limits<std::uint32_t>::max();
+    return static_cast<std::uint32_t>(fValue);
+}
 
 #endif

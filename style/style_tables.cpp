@@ -1,12 +1,15 @@
 #include "style/style_tables.h"
 
-#include <algorithm>
 #include <utility>
 
+void StylingTable::vClear() {
+    firstById_.clear();
+    entries_.clear();
+}
+
 const StylingAttribGroup* StylingTable::prFind(const std::string& strId) const {
-    const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&](const StylingAttribGroup& entry) { return entry.strId == strId; });
-    return found == entries_.end() ? nullptr : &*found;
+    const auto found = firstById_.find(strId);
+    return found == firstById_.end() ? nullptr : found->second;
 }
 
 const StylingAttrib* StylingTable::prGetByID(const std::string& strId) const {
@@ -21,6 +24,7 @@ StylingAttribGroup StylingTable::rGetByID(const std::string& strId) const {
 
 void StylingTable::vAppend(StylingAttribGroup group) {
     entries_.push_back(std::move(group));
+    firstById_.emplace(entries_.back().strId, &entries_.back());
 }
 
 void StyleTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root) {

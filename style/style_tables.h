@@ -12,6 +12,8 @@
 #include <cstddef>
 #include <deque>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 
 /// What both tables share.
 class StylingTable {
@@ -23,7 +25,7 @@ public:
     /// How many entries there are.
     std::size_t uGetCount() const { return entries_.size(); }
     /// Removes all entries; records handed out before are gone.
-    void vClear() { entries_.clear(); }
+    void vClear();
 
 protected:
     void vAppend(StylingAttribGroup group);
@@ -32,6 +34,7 @@ private:
     const StylingAttribGroup* prFind(const std::string& strId) const;
 
     std::deque<StylingAttribGroup> entries_;
+    std::unordered_map<std::string_view, const StylingAttribGroup*> firstById_; // keys stand in the entries
 };
 
 class StyleTable : public StylingTable {

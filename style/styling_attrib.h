@@ -38,8 +38,8 @@ enum text_decoration_e : std::int32_t {
 
 /// A pair of words that the library carries but never reads.
 struct ReservedPair {
-    std::uint32_t uFirst = 0;
-    std::uint32_t uSecond = 0;
+    std::uint32_t uFirst = 0;  ///< not used by the library
+    std::uint32_t uSecond = 0; ///< not used by the library
 };
 
 /// The resolved styling of a piece of content. Lengths are whole pixels, truncated. The order and widths of
@@ -93,21 +93,5 @@ public:
     std::string strId;    ///< the element's xml:id; empty when it has none
     StylingAttrib attrib; ///< the values read from the element
 };
-
-// Keyword conversion. The text is compared as a whole and case-sensitively; what equals no keyword gives the
-// fallback named with the enumeration, or 0.
-
-/// The value of a tts:displayAlign text.
-display_align_e eDisplayAlignFromKeyword(const std::string& text);
-/// The value of a tts:textAlign text.
-text_align_e eTextAlignFromKeyword(const std::string& text);
-/// The value of a tts:textDecoration text.
-text_decoration_e eTextDecorationFromKeyword(const std::string& text);
-/// 1 for "italic", else 0.
-std::int32_t iFontStyleFromKeyword(const std::string& text);
-/// 1 for "bold", else 0.
-std::int32_t iFontWeightFromKeyword(const std::string& text);
-/// 1 for "hidden", else 0.
-std::int32_t iVisibilityFromKeyword(const std::string& text);
 
 #endif

@@ -1,5 +1,7 @@
 #include "style/styling_attrib.h"
 
+#include "style/keywords.h"
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,4 +1,4 @@
-#include "style/styling_attrib.h"
+#include "style/keywords.h"
 
 #include <cstddef>
 
