@@ -2,6 +2,9 @@
 
 #include "runtime/exceptions.h"
 #include "xmltree/transcode.h"
+#ifdef XTTML_UNTRUSTED_XML
+#include "xmltree/untrusted_parser.h"
+#endif
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
@@ -15,10 +18,15 @@
 
 using tessera::DataSourceUnavailableException;
 using xercesc::DOMDocument;
-using xercesc::XercesDOMParser;
 using xercesc::XMLPlatformUtils;
 
 namespace {
+
+#ifdef XTTML_UNTRUSTED_XML
+using DocumentParser = UntrustedParser;
+#else
+using DocumentParser = xercesc::XercesDOMParser;
+#endif
 
 /// A load from memory says nothing on its way.
 struct SilentLoad {
@@ -40,7 +48,7 @@ DOMDocument* ParseDocument(const Report& report, Parse&& parse) {
         throw DataSourceUnavailableException(
             report.Failure("Xerces XML error while loading: The XML library is not initialised."));
     }
-    XercesDOMParser parser(nullptr, XMLPlatformUtils::fgMemoryManager);
+    DocumentParser parser(nullptr, XMLPlatformUtils::fgMemoryManager);
     report.Line("parser Created OK");
     xercesc::DefaultHandler handler;
     report.Line("defaultHandler Created OK");
@@ -74,7 +82,7 @@ DOMDocument* Load(const Report& report, Parse&& parse) {
 }
 
 DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
-    return Load(SilentLoad{}, [bytes, size](XercesDOMParser& parser) {
+    return Load(SilentLoad{}, [bytes, size](DocumentParser& parser) {
         parser.parse(xercesc::MemBufInputSource(static_cast<const XMLByte*>(bytes), size, "String"));
     });
 }
@@ -85,7 +93,7 @@ DOMDocument* XercesTreeOperations::LoadDocument(const std::string& path) {
     std::puts("XercesTreeOperations::LoadDocument called!");
     std::puts("declare parser OK");
     return Load(ReportedLoad{path},
-                [&path](XercesDOMParser& parser) { parser.parse(XercesStringTemp(path)); });
+                [&path](DocumentParser& parser) { parser.parse(XercesStringTemp(path)); });
 }
 
 DOMDocument* XercesTreeOperations::LoadXml(const std::string& text) {

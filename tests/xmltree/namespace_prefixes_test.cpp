@@ -1,5 +1,6 @@
 #include "runtime/qname.h"
 #include "tests/xmltree/sample_document.h"
+#include "xmltree/namespace_prefixes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include "tests/xmltree/sample_document.h"
+#include "xmltree/namespace_prefixes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,247 @@
+// Every allocation of a player's way through the library is made to fail in turn: each ends as the contract
+// says, nothing is lost, and the parser goes on. The library's own allocations and those of the XML library
+// are told apart by their ways: operator new, and the memory manager given to the XML library.
+#include "api/x_ttml.h"
+#include "tests/hardening/redirected_output.h"
+#include "tests/support/temporary_file.h"
+
+#include <gtest/gtest.h>
+#include <xercesc/framework/MemoryManager.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLUni.hpp>
+
+#include <cstdint>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <new>
+
+#include <dlfcn.h>
+#include <regex.h>
+
+namespace {
+
+/// Counts allocations and makes one of them fail.
+class Allocations {
+public:
+    /// The allocation after `count` - 1 others fails.
+    void FailAt(long count) { countdown_ = count; }
+    /// No more failures; tells whether there was one.
+    bool EndFailing() {
+        const bool hasFailed = countdown_ == 0;
+        countdown_ = NEVER;
+        return hasFailed;
+    }
+    /// How many blocks have not been freed.
+    long Held() const { return held_; }
+
+    void* Allocate(std::size_t size) {
+        void* const block = countdown_ > 0 && --countdown_ == 0 ? nullptr : std::malloc(size);
+        held_ += block ? 1 : 0;
+        return block;
+    }
+    void Free(void* block) {
+        held_ -= block ? 1 : 0;
+        std::free(block);
+    }
+
+private:
+    static constexpr long NEVER = -1;
+
+    long countdown_ = NEVER;
+    long held_ = 0;
+};
+
+Allocations own;
+Allocations xml;
+
+class XmlMemory : public xercesc::MemoryManager {
+public:
+    xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
+    void* allocate(XMLSize_t size) override {
+        void* const block = xml.Allocate(size);
+        return block ? block : throw xercesc::OutOfMemoryException();
+    }
+    void deallocate(void* block) override { xml.Free(block); }
+};
+
+XmlMemory xmlMemory;
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    void* const block = own.Allocate(size);
+    return block ? block : throw std::bad_alloc();
+}
+void operator delete(void* block) noexcept {
+    own.Free(block);
+}
+void operator delete(void* block, std::size_t) noexcept {
+    own.Free(block);
+}
+
+/// The XML library abandons what it holds when an allocation of its own fails.
+extern "C" XTTML_API const char* __lsan_default_suppressions(); // NOLINT(bugprone-reserved-identifier)
+const char* __lsan_default_suppressions() {
+    return "leak:XmlMemory::allocate\n";
+}
+
+namespace {
+bool hasMemoryForPatterns = true;
+} // namespace
+
+/// Stands before the C library's own, whose memory is not operator new's.
+extern "C" int regcomp(regex_t* expression, const char* pattern, int flags) {
+    static const auto original = reinterpret_cast<decltype(&regcomp)>(dlsym(RTLD_NEXT, "regcomp"));
+    return hasMemoryForPatterns ? original(expression, pattern, flags) : REG_ESPACE;
+}
+
+namespace {
+
+// The first test, before a length has been read in this process.
+TEST(PatternFailure, EndsWithTheLackOfMemory) {
+    float number = 0;
+    float second = 0;
+    length_unit_e unit = LENGTH_UNIT_NONE;
+    hasMemoryForPatterns = false;
+    EXPECT_THROW(fgGetLength("10px", number, unit), std::bad_alloc);
+    EXPECT_THROW(fgGetDoubleLength("10px 20px", number, second, unit), std::bad_alloc);
+    hasMemoryForPatterns = true;
+    EXPECT_TRUE(fgGetLength("10px", number, unit));
+    EXPECT_TRUE(fgGetDoubleLength("10px 20px", number, second, unit));
+}
+
+constexpr char DOCUMENT[] =
+    "<tt xmlns='http://www.w3.org/ns/ttml' xmlns:tts='http://www.w3.org/ns/ttml#styling' "
+    "xmlns:ttp='http://www.w3.org/ns/ttml#parameter' ttp:frameRate='25' tts:extent='1280px 720px' "
+    "xmlns:smpte='http://www.smpte-ra.org/schemas/2052-1/2010/smpte-tt' xml:lang='a-language-of-its-own'>"
+    "<head><styling><style xml:id='the style of a speaker' tts:color='rgba(128,128,128,255)'/></styling>"
+    "<layout><region xml:id='the region at the bottom' tts:extent='80% 15%' "
+    "tts:fontSize='36px'/></layout></head>"
+    "<body><div begin='00:00:01.000000000' end='2s' "
+    "smpte:backgroundImage='urn:dece:container:subtitleimageindex:1.png'>"
+    "<p begin='00:00:01.000000000' end='2s' region='the region at the bottom' style='the style of a speaker'>"
+    "the first line<br/><span tts:color='rgba(255,255,255,255)'>and <span "
+    "tts:fontSize='120%'>the</span></span></p>"
+    "<p begin='00:00:01.000000000' end='2s'>another<br/>paragraph</p></div></body></tt>";
+constexpr char IMAGES[] = "\x89PNG the only one";
+
+void Load(x_ttml_handle parser, const char* path) {
+    if (path)
+        x_ttml_load_subtitle_from_file(parser, path);
+    else
+        x_ttml_load_subtitle_from_data(parser, DOCUMENT, sizeof DOCUMENT - 1);
+}
+
+/// The whole way of a player, from a file or, without a path, from memory.
+void Play(x_ttml_handle parser, const char* path) {
+    x_ttml_set_document_buffer_info(parser, IMAGES, sizeof IMAGES - 1);
+    Load(parser, path);
+    x_ttml_generate_text_display_item_sequence(parser, 0);
+    x_ttml_generate_image_display_item_sequence(parser, 0);
+    DisplayItem* items[X_TTML_DISPLAY_ITEM_SLOTS];
+    for (const std::uint32_t time : {0U, 1500U, 3000U}) {
+        x_ttml_get_display_item_by_time(parser, time);
+        x_ttml_combine_same_time_item(parser);
+        x_ttml_get_display_item_array_by_time(parser, items, time);
+    }
+}
+
+/// What a player receives when memory ends.
+enum class Ending { NOTHING, BAD_ALLOC, XML_OUT_OF_MEMORY };
+
+Ending PlayWithFailure(x_ttml_handle& parser, const char* path) {
+    try {
+        x_ttml_create_new_parser(&parser);
+        Play(parser, path);
+        return Ending::NOTHING;
+    } catch (const std::bad_alloc&) {
+        return Ending::BAD_ALLOC;
+    } catch (const xercesc::OutOfMemoryException&) {
+        return Ending::XML_OUT_OF_MEMORY;
+    }
+}
+
+/// Requires of a parser that has met the end of memory that it plays once there is memory again.
+void ExpectPlaysAgain(x_ttml_handle parser, const char* path) {
+    x_ttml_destory_doc(parser);
+    Play(parser, path);
+    const auto* const item = dynamic_cast<TextItem*>(x_ttml_get_display_item_by_time(parser, 1500));
+    ASSERT_TRUE(item);
+    for (const Sentence* sentence : *item->pGetSentenceSeq())
+        ASSERT_TRUE(sentence);
+    EXPECT_EQ(item->pGetSentenceSeq()->size(), 4U);
+    x_ttml_destory_doc(parser);
+}
+
+class AllocationFailure : public testing::Test {
+protected:
+    AllocationFailure() {
+        xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr,
+                                              &xmlMemory);
+        const RedirectedOutput silence("/dev/null");
+        x_ttml_handle parser = nullptr;
+        x_ttml_create_new_parser(&parser); // what is made once in a process is made now
+        Play(parser, file.path.c_str());
+        x_ttml_destory_doc(parser);
+        x_ttml_delete_parser(parser);
+    }
+    ~AllocationFailure() override { xercesc::XMLPlatformUtils::Terminate(); }
+
+    /// Plays with the first, the second, ... allocation failing, until a whole day needs no more of them.
+    /// `check` gets the ending and how many blocks were lost of the library's own and of the XML library's.
+    void ForEachFailure(Allocations& failing, const char* path,
+                        const std::function<void(Ending, long, long)>& check) {
+        failures = 0;
+        for (bool hasFailed = true; hasFailed; ++failures) {
+            const long ownBefore = own.Held();
+            const long xmlBefore = xml.Held();
+            Ending ending = Ending::NOTHING;
+            {
+                const RedirectedOutput silence("/dev/null");
+                x_ttml_handle parser = nullptr;
+                failing.FailAt(failures + 1);
+                ending = PlayWithFailure(parser, path);
+                hasFailed = failing.EndFailing();
+                if (parser)
+                    ExpectPlaysAgain(parser, path);
+                x_ttml_delete_parser(parser);
+            }
+            check(ending, own.Held() - ownBefore, xml.Held() - xmlBefore);
+        }
+    }
+
+    const TemporaryFile file{DOCUMENT};
+    long failures = 0;
+};
+
+TEST_F(AllocationFailure, OfTheLibraryLosesNothing) {
+    for (const char* path : {static_cast<const char*>(nullptr), file.path.c_str()}) {
+        std::map<Ending, int> endings;
+        ForEachFailure(own, path, [&](Ending ending, long ownLost, long xmlLost) {
+            ++endings[ending];
+            EXPECT_EQ(ownLost, 0) << "allocation " << failures;
+            EXPECT_EQ(xmlLost, 0) << "allocation " << failures;
+        });
+        EXPECT_EQ(endings.count(Ending::XML_OUT_OF_MEMORY), 0U);
+        EXPECT_GT(endings[Ending::BAD_ALLOC], 50);
+    }
+}
+
+// The XML library leaves to the end of the process what it held when its own memory ended.
+TEST_F(AllocationFailure, OfTheXmlLibraryLosesNothingOfOurs) {
+    for (const char* path : {static_cast<const char*>(nullptr), file.path.c_str()}) {
+        std::map<Ending, int> endings;
+        ForEachFailure(xml, path, [&](Ending ending, long ownLost, long) {
+            ++endings[ending];
+            EXPECT_EQ(ownLost, 0) << "allocation " << failures;
+        });
+        EXPECT_EQ(endings.count(Ending::BAD_ALLOC), 0U);
+        EXPECT_GT(endings[path ? Ending::XML_OUT_OF_MEMORY : Ending::NOTHING], 50);
+        EXPECT_EQ(endings.count(Ending::XML_OUT_OF_MEMORY), path ? 1U : 0U)
+            << "from memory there is a status";
+    }
+}
+
+} // namespace
