@@ -42,6 +42,7 @@
 #include "runtime/export.h"
 
 #include <stdint.h>
+#include <x_ttml_version.h>
 
 #ifdef __cplusplus
 #include "parser/display_item.h"

@@ -18,12 +18,14 @@
 
 namespace ttaf1_dfxp {
 
+/// Converts the value of an attribute.
 template <class T>
 using MemberCast = T (*)(const xercesc::DOMNode*, const tessera::MemberInfo&);
 
 /// How the value of an attribute is converted to a T; null for a type that no attribute is read as.
 template <class T>
 inline constexpr MemberCast<T> CAST_TO = nullptr;
+/// @cond
 template <>
 inline constexpr MemberCast<std::string> CAST_TO<std::string> = XercesTreeOperations::CastToString;
 template <>
@@ -50,6 +52,7 @@ inline constexpr MemberCast<std::vector<unsigned char>> CAST_TO<std::vector<unsi
     XercesTreeOperations::CastToBinary;
 template <>
 inline constexpr MemberCast<tessera::QName> CAST_TO<tessera::QName> = XercesTreeOperations::CastToQName;
+/// @endcond
 
 /// An attribute, read as a T. It is found by namespace and local name: one of the same name in another
 /// namespace, or in none, is not this one.
@@ -59,6 +62,7 @@ class MemberAttribute {
     static_assert(CAST_TO<T> != nullptr);
 
 public:
+    /// `owner`: the wrapper that the accessor belongs to; must outlive it.
     explicit MemberAttribute(const TypeBase& owner) : owner_(owner) {}
     MemberAttribute(const MemberAttribute&) = delete;
     MemberAttribute& operator=(const MemberAttribute&) = delete;
@@ -108,6 +112,7 @@ private:
 template <class T>
 class Iterator : public T {
 public:
+    /// Stands on the element that `match` stands on.
     explicit Iterator(const XercesTreeOperations::MemberIterator& match)
         : T(match.CurrentNode()), match_(match) {}
 
@@ -133,6 +138,7 @@ class MemberElement {
     static_assert(member < MEMBER_COUNT);
 
 public:
+    /// `owner`: the wrapper that the accessor belongs to; must outlive it.
     explicit MemberElement(const TypeBase& owner) : owner_(owner) {}
     MemberElement(const MemberElement&) = delete;
     MemberElement& operator=(const MemberElement&) = delete;

@@ -12,10 +12,10 @@
 
 namespace ttaf1_dfxp {
 
-inline constexpr std::uint32_t NAMESPACE_COUNT = 10;
-inline constexpr std::uint32_t TYPE_COUNT = 144;
-inline constexpr std::uint32_t MEMBER_COUNT = 490;
-inline constexpr std::uint32_t FACET_COUNT = 259; ///< the ends of the lists included
+inline constexpr std::uint32_t NAMESPACE_COUNT = 10; ///< records of `namespaces` before its end
+inline constexpr std::uint32_t TYPE_COUNT = 144;     ///< records of `types` before its end
+inline constexpr std::uint32_t MEMBER_COUNT = 490;   ///< records of `members` before its end
+inline constexpr std::uint32_t FACET_COUNT = 259;    ///< records of `facets`, the ends of the lists included
 
 /// In the order of the types that they own.
 extern XTTML_API const tessera::NamespaceInfo namespaces[NAMESPACE_COUNT + 1];

@@ -58,18 +58,22 @@ public:
     // the byte order is not given, "UTF-16BE" (in any case of letters) is written big-endian and "UTF-16"
     // with a byte order mark, every other encoding little-endian without one.
 
-    /// Writes a UTF-8 file without a byte order mark.
+    /// @{
+    /// Writes a file; without an encoding one in UTF-8 without a byte order mark.
     void SaveToFile(const std::string& path, bool prettyPrint) const;
     void SaveToFile(const std::string& path, bool prettyPrint, const std::string& encoding) const;
     void SaveToFile(const std::string& path, bool prettyPrint, const std::string& encoding, bool bigEndian,
                     bool withBOM) const;
+    /// @}
     /// Each UTF-16 unit of the text is narrowed to its low 8 bits.
     std::string SaveToString(bool prettyPrint) const;
-    /// In the encoding that the XML library chooses.
+    /// @{
+    /// The bytes of the document; without an encoding in the one that the XML library chooses.
     std::vector<unsigned char> SaveToBinary(bool prettyPrint) const;
     std::vector<unsigned char> SaveToBinary(bool prettyPrint, const std::string& encoding) const;
     std::vector<unsigned char> SaveToBinary(bool prettyPrint, const std::string& encoding, bool bigEndian,
                                             bool withBOM) const;
+    /// @}
 
     /// Sets xsi:schemaLocation on the root element to its namespace and `location`, or, when it has no
     /// namespace, xsi:noNamespaceSchemaLocation to `location` (XML Schema Part 1, 2.6.3). Throws

@@ -44,6 +44,7 @@ public:
                                             std::uint32_t count);
 
 protected:
+    /// Views another node from now on; null for none.
     void SetNode(xercesc::DOMNode* node) { node_ = node; }
 
     /// The text inside the node; empty without a node.

@@ -11,6 +11,9 @@ if(XTTML_COVERAGE)
   add_compile_options(--coverage -fprofile-update=atomic)
   add_link_options(--coverage)
 endif()
+if(XTTML_BUILD_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # Offset times are rounded after every product and every sum, on every machine.
 add_compile_options(-ffp-contract=off)

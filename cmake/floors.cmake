@@ -3,14 +3,11 @@
 set(XTTML_FLOORS "")
 
 macro(xttml_floor name)
-  file(SIZE ${PROJECT_SOURCE_DIR}/${name}/CMakeLists.txt size) # BOOTSTRAP
-  if(size GREATER 0) # BOOTSTRAP
   add_library(xttml_${name} OBJECT)
   target_include_directories(xttml_${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(xttml_${name} PUBLIC XercesC::XercesC)
   list(APPEND XTTML_FLOORS ${name})
   add_subdirectory(${name})
-  endif() # BOOTSTRAP
 endmacro()
 
 # Links the objects of a floor and of every floor below it into a target, hidden symbols included.

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* DATE_TIME = "dateTime";
 
 // The offset that a value without a timezone may have at most, in minutes (XML Schema Part 2, 3.2.7.4).
-constexpr std::int64_t LARGEST_OFFSET = 14 * 60;
+constexpr std::int64_t LARGEST_OFFSET = std::int64_t{14} * 60;
 
 CalendarDate DateOf(std::int64_t value) {
     return DateOfDay(FloorDivide(value, TICKS_PER_DAY));

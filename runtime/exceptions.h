@@ -18,9 +18,11 @@ public:
     CTesseraException(int code, const std::string& info, bool user);
     virtual ~CTesseraException();
 
+    /// The code that was given.
     int GetCode() const noexcept;
     /// The message; lives as long as the exception.
     const std::string& GetInfo() const noexcept;
+    /// Whether user code raised the failure.
     bool IsUserException() const noexcept;
 
 private:
@@ -129,6 +131,7 @@ private:
 /// A coded failure of the XML layer; never a user exception.
 class XTTML_API CXmlException : public CTesseraException {
 public:
+    /// `info`: the message.
     CXmlException(int code, const std::string& info);
     ~CXmlException() override;
 };

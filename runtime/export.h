@@ -2,6 +2,7 @@
 #ifndef XTTML_RUNTIME_EXPORT_H
 #define XTTML_RUNTIME_EXPORT_H
 
+/** Exported by the library. */
 #define XTTML_API __attribute__((visibility("default")))
 
 #endif

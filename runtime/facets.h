@@ -2,7 +2,6 @@
 #ifndef XTTML_RUNTIME_FACETS_H
 #define XTTML_RUNTIME_FACETS_H
 
-#include "runtime/export.h"
 #include "runtime/info.h"
 
 #include <cstddef>
@@ -79,7 +78,7 @@ public:
 
 // The lengths of hexBinary and base64Binary are null: nothing checks them. The lengths and the enumeration
 // of string and the enumerations of the binary types are checked; every other check always passes.
-#define XTTML_DECLARE_CHECK(type, facet) extern XTTML_API const FacetCheck* const FacetCheck_##type##_##facet;
+#define XTTML_DECLARE_CHECK(type, facet) extern const FacetCheck* const FacetCheck_##type##_##facet;
 #define XTTML_DECLARE_CHECK_OF_TYPE(type) XTTML_VALUE_FACETS(XTTML_DECLARE_CHECK, type)
 XTTML_FACET_CHECKS(XTTML_DECLARE_CHECK)
 #undef XTTML_DECLARE_CHECK_OF_TYPE

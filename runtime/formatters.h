@@ -7,7 +7,6 @@
 
 #include "runtime/date_time.h"
 #include "runtime/duration.h"
-#include "runtime/export.h"
 
 #include <string>
 #include <vector>
@@ -86,21 +85,21 @@ public:
 };
 
 // The formatter of each type, through which other modules reach the objects.
-extern XTTML_API const XmlFormatter& Exported_TimeFormatter;
-extern XTTML_API const XmlFormatter& Exported_DateFormatter;
-extern XTTML_API const XmlFormatter& Exported_DateTimeFormatter;
-extern XTTML_API const XmlFormatter& Exported_GYearFormatter;
-extern XTTML_API const XmlFormatter& Exported_GMonthFormatter;
-extern XTTML_API const XmlFormatter& Exported_GDayFormatter;
-extern XTTML_API const XmlFormatter& Exported_GYearMonthFormatter;
-extern XTTML_API const XmlFormatter& Exported_GMonthDayFormatter;
-extern XTTML_API const XmlFormatter& Exported_IntegerFormatter;
-extern XTTML_API const XmlFormatter& Exported_DecimalFormatter;
-extern XTTML_API const XmlFormatter& Exported_AnySimpleTypeFormatter;
-extern XTTML_API const XmlFormatter& Exported_DurationFormatter;
-extern XTTML_API const XmlFormatter& Exported_DoubleFormatter;
-extern XTTML_API const XmlFormatter& Exported_Base64BinaryFormatter;
-extern XTTML_API const XmlFormatter& Exported_HexBinaryFormatter;
+extern const XmlFormatter& Exported_TimeFormatter;
+extern const XmlFormatter& Exported_DateFormatter;
+extern const XmlFormatter& Exported_DateTimeFormatter;
+extern const XmlFormatter& Exported_GYearFormatter;
+extern const XmlFormatter& Exported_GMonthFormatter;
+extern const XmlFormatter& Exported_GDayFormatter;
+extern const XmlFormatter& Exported_GYearMonthFormatter;
+extern const XmlFormatter& Exported_GMonthDayFormatter;
+extern const XmlFormatter& Exported_IntegerFormatter;
+extern const XmlFormatter& Exported_DecimalFormatter;
+extern const XmlFormatter& Exported_AnySimpleTypeFormatter;
+extern const XmlFormatter& Exported_DurationFormatter;
+extern const XmlFormatter& Exported_DoubleFormatter;
+extern const XmlFormatter& Exported_Base64BinaryFormatter;
+extern const XmlFormatter& Exported_HexBinaryFormatter;
 
 } // namespace tessera
 

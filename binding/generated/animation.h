@@ -17,8 +17,11 @@ namespace ttaf1_dfxp::tt {
 /// The element tt:set.
 class Cset_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cset_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cset_eltype(const Cset_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cset_eltype& operator=(const Cset_eltype& other) {
         TypeBase::operator=(other);
         return *this;

@@ -17,8 +17,11 @@ namespace ttaf1_dfxp::tt {
 /// The element tt:body.
 class Cbody_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cbody_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cbody_eltype(const Cbody_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cbody_eltype& operator=(const Cbody_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -77,8 +80,11 @@ public:
 /// The element tt:br.
 class Cbr_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cbr_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cbr_eltype(const Cbr_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cbr_eltype& operator=(const Cbr_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -130,8 +136,11 @@ public:
 /// The element tt:div.
 class Cdiv_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cdiv_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cdiv_eltype(const Cdiv_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cdiv_eltype& operator=(const Cdiv_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -194,8 +203,11 @@ public:
 /// The element tt:p.
 class Cp_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cp_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cp_eltype(const Cp_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cp_eltype& operator=(const Cp_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -263,8 +275,11 @@ public:
 /// The element tt:span.
 class Cspan_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cspan_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cspan_eltype(const Cspan_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cspan_eltype& operator=(const Cspan_eltype& other) {
         TypeBase::operator=(other);
         return *this;

@@ -67,8 +67,11 @@ struct CzIndex : TypeBase { using TypeBase::TypeBase; };
 /// An element whose content is one ttd:extensionDesignator.
 class CextensionDesignatorType : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit CextensionDesignatorType(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     CextensionDesignatorType(const CextensionDesignatorType& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     CextensionDesignatorType& operator=(const CextensionDesignatorType& other) {
         TypeBase::operator=(other);
         return *this;
@@ -89,8 +92,11 @@ public:
 /// An element whose content is one ttd:featureDesignator.
 class CfeatureDesignatorType : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit CfeatureDesignatorType(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     CfeatureDesignatorType(const CfeatureDesignatorType& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     CfeatureDesignatorType& operator=(const CfeatureDesignatorType& other) {
         TypeBase::operator=(other);
         return *this;

@@ -17,8 +17,11 @@ namespace ttaf1_dfxp::tt {
 /// The element tt:head.
 class Chead_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Chead_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Chead_eltype(const Chead_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Chead_eltype& operator=(const Chead_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -44,8 +47,11 @@ public:
 /// The element tt:tt.
 class Ctt_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Ctt_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Ctt_eltype(const Ctt_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Ctt_eltype& operator=(const Ctt_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -76,8 +82,11 @@ public:
 /// What the schema says of the document: each element that may be its root.
 class DocumentElements : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit DocumentElements(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     DocumentElements(const DocumentElements& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     DocumentElements& operator=(const DocumentElements& other) {
         TypeBase::operator=(other);
         return *this;

@@ -17,8 +17,11 @@ namespace ttaf1_dfxp::tt {
 /// The element tt:layout.
 class Clayout_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Clayout_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Clayout_eltype(const Clayout_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Clayout_eltype& operator=(const Clayout_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -42,8 +45,11 @@ public:
 /// The element tt:region.
 class Cregion_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cregion_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cregion_eltype(const Cregion_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cregion_eltype& operator=(const Cregion_eltype& other) {
         TypeBase::operator=(other);
         return *this;

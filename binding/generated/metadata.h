@@ -17,8 +17,11 @@ namespace ttaf1_dfxp::tt {
 /// The element tt:metadata.
 class Cmetadata_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cmetadata_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cmetadata_eltype(const Cmetadata_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cmetadata_eltype& operator=(const Cmetadata_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -47,8 +50,11 @@ namespace ttaf1_dfxp::ttm {
 /// The element ttm:actor.
 class Cactor_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cactor_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cactor_eltype(const Cactor_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cactor_eltype& operator=(const Cactor_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -66,8 +72,11 @@ public:
 /// The element ttm:agent.
 class Cagent_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cagent_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cagent_eltype(const Cagent_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cagent_eltype& operator=(const Cagent_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -87,8 +96,11 @@ public:
 /// The element ttm:copyright.
 class Ccopyright_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Ccopyright_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Ccopyright_eltype(const Ccopyright_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Ccopyright_eltype& operator=(const Ccopyright_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -113,8 +125,11 @@ public:
 /// The element ttm:desc.
 class Cdesc_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cdesc_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cdesc_eltype(const Cdesc_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cdesc_eltype& operator=(const Cdesc_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -139,8 +154,11 @@ public:
 /// The element ttm:name.
 class Cname_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cname_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cname_eltype(const Cname_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cname_eltype& operator=(const Cname_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -166,8 +184,11 @@ public:
 /// The element ttm:title.
 class Ctitle_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Ctitle_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Ctitle_eltype(const Ctitle_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Ctitle_eltype& operator=(const Ctitle_eltype& other) {
         TypeBase::operator=(other);
         return *this;

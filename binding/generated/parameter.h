@@ -18,8 +18,11 @@ namespace ttaf1_dfxp::ttp {
 /// The element ttp:extension.
 class Cextension_eltype : public ttd::CextensionDesignatorType {
 public:
+    /// Views a node, which may be null.
     explicit Cextension_eltype(xercesc::DOMNode* wrapped) : ttd::CextensionDesignatorType(wrapped) {}
+    /// Views the same node.
     Cextension_eltype(const Cextension_eltype& other) : ttd::CextensionDesignatorType(other) {}
+    /// Views the other's node from now on.
     Cextension_eltype& operator=(const Cextension_eltype& other) {
         ttd::CextensionDesignatorType::operator=(other);
         return *this;
@@ -37,8 +40,11 @@ public:
 /// The element ttp:extensions.
 class Cextensions_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cextensions_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cextensions_eltype(const Cextensions_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cextensions_eltype& operator=(const Cextensions_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -55,8 +61,11 @@ public:
 /// The element ttp:feature.
 class Cfeature_eltype : public ttd::CfeatureDesignatorType {
 public:
+    /// Views a node, which may be null.
     explicit Cfeature_eltype(xercesc::DOMNode* wrapped) : ttd::CfeatureDesignatorType(wrapped) {}
+    /// Views the same node.
     Cfeature_eltype(const Cfeature_eltype& other) : ttd::CfeatureDesignatorType(other) {}
+    /// Views the other's node from now on.
     Cfeature_eltype& operator=(const Cfeature_eltype& other) {
         ttd::CfeatureDesignatorType::operator=(other);
         return *this;
@@ -74,8 +83,11 @@ public:
 /// The element ttp:features.
 class Cfeatures_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cfeatures_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cfeatures_eltype(const Cfeatures_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cfeatures_eltype& operator=(const Cfeatures_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -92,8 +104,11 @@ public:
 /// The element ttp:profile.
 class Cprofile_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cprofile_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cprofile_eltype(const Cprofile_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cprofile_eltype& operator=(const Cprofile_eltype& other) {
         TypeBase::operator=(other);
         return *this;

@@ -40,8 +40,11 @@ struct CcaptionLanguageType : TypeBase { using TypeBase::TypeBase; };
 /// The element smpte:data.
 class CdataType : public xs::CstringType {
 public:
+    /// Views a node, which may be null.
     explicit CdataType(xercesc::DOMNode* wrapped) : xs::CstringType(wrapped) {}
+    /// Views the same node.
     CdataType(const CdataType& other) : xs::CstringType(other) {}
+    /// Views the other's node from now on.
     CdataType& operator=(const CdataType& other) {
         xs::CstringType::operator=(other);
         return *this;
@@ -60,8 +63,11 @@ public:
 /// The element smpte:image.
 class CimageType : public xs::CstringType {
 public:
+    /// Views a node, which may be null.
     explicit CimageType(xercesc::DOMNode* wrapped) : xs::CstringType(wrapped) {}
+    /// Views the same node.
     CimageType(const CimageType& other) : xs::CstringType(other) {}
+    /// Views the other's node from now on.
     CimageType& operator=(const CimageType& other) {
         xs::CstringType::operator=(other);
         return *this;
@@ -80,8 +86,11 @@ public:
 /// The element smpte:information.
 class CinformationType : public xs::CstringType {
 public:
+    /// Views a node, which may be null.
     explicit CinformationType(xercesc::DOMNode* wrapped) : xs::CstringType(wrapped) {}
+    /// Views the same node.
     CinformationType(const CinformationType& other) : xs::CstringType(other) {}
+    /// Views the other's node from now on.
     CinformationType& operator=(const CinformationType& other) {
         xs::CstringType::operator=(other);
         return *this;

@@ -17,8 +17,11 @@ namespace ttaf1_dfxp::tt {
 /// The element tt:style.
 class Cstyle_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cstyle_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cstyle_eltype(const Cstyle_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cstyle_eltype& operator=(const Cstyle_eltype& other) {
         TypeBase::operator=(other);
         return *this;
@@ -67,8 +70,11 @@ public:
 /// The element tt:styling.
 class Cstyling_eltype : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit Cstyling_eltype(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     Cstyling_eltype(const Cstyling_eltype& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     Cstyling_eltype& operator=(const Cstyling_eltype& other) {
         TypeBase::operator=(other);
         return *this;

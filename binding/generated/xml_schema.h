@@ -64,8 +64,11 @@ struct CunsignedShort : TypeBase { using TypeBase::TypeBase; };
 /// The type xs:anyType.
 class CanyType : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit CanyType(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     CanyType(const CanyType& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     CanyType& operator=(const CanyType& other) {
         TypeBase::operator=(other);
         return *this;
@@ -86,8 +89,11 @@ public:
 /// An element whose content is one xs:string.
 class CstringType : public TypeBase {
 public:
+    /// Views a node, which may be null.
     explicit CstringType(xercesc::DOMNode* wrapped) : TypeBase(wrapped) {}
+    /// Views the same node.
     CstringType(const CstringType& other) : TypeBase(other) {}
+    /// Views the other's node from now on.
     CstringType& operator=(const CstringType& other) {
         TypeBase::operator=(other);
         return *this;

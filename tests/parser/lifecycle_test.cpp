@@ -41,8 +41,7 @@ TEST_F(Lifecycle, LoadsFromAPath) {
 TEST_F(Lifecycle, AFailedLoadKeepsWhatWasHeld) {
     ASSERT_TRUE(fgLoad(strDocument("xml:lang='fr'", "")));
     const TemporaryFile malformed("<tt>");
-    for (const std::string& strPath :
-         {malformed.path, malformed.path + ".missing", std::string()}) {
+    for (const std::string& strPath : {malformed.path, malformed.path + ".missing", std::string()}) {
         EXPECT_THROW(CapturedOutput([&] { parser.fgLoadDocument(strPath.c_str()); }),
                      tessera::DataSourceUnavailableException)
             << strPath;

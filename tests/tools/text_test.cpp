@@ -62,7 +62,7 @@ TEST(JsonOutput, HoldsValidTextForLoneSurrogates) {
     item.vecSentence.push_back(new Sentence);
     item.vecSentence[1]->vecText = {0xDC00};
     item.vecContent = {0xDFFF};
-    const Json json = Json::parse(ItemToJson(item).dump());
+    const Json json = Json::parse(ItemToJson(item, ImageBlock(std::vector<std::string>())).dump());
     EXPECT_EQ(json.at("text"), "\xEF\xBF\xBDx\xEF\xBF\xBD");
     EXPECT_EQ(json.at("runs").at(0).at("text"), "\xEF\xBF\xBDx");
     EXPECT_EQ(json.at("content"), "\xEF\xBF\xBD");

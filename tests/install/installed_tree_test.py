@@ -1,0 +1,171 @@
+"""Installs into a temporary prefix and looks at the tree as a user of it: its headers, its version, its clients."""
+
+import argparse
+import concurrent.futures
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+HERE = pathlib.Path(__file__).resolve().parent
+C_PLAYER = HERE.parent / "api" / "c_player_test.c"
+WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Werror"]
+C99 = ["-std=c99", "-D_POSIX_C_SOURCE=200809L"]
+CPP17 = ["-std=c++17"]
+
+DRAWN = """1000-2000 at 128,576 1024x100 in 255,128,0,64: 2 1 italic
+1 10 20.5 4; 24
+1 24 1; 1 128; 2.5; #102030FF
+caught 0
+"""
+SAVED = """1s to 2s: text
+Cannot read value of non-existent attribute.
+"""
+
+
+def read_arguments():
+    parser = argparse.ArgumentParser()
+    for name in ("cmake", "source", "build", "cc", "cxx", "readelf"):
+        parser.add_argument(f"--{name}", required=True)
+    return parser.parse_args()
+
+
+def run(*command, **options):
+    """What a command writes to standard output; its standard error when it fails."""
+    done = subprocess.run(
+        list(map(str, command)), stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False, **options
+    )
+    if done.returncode != 0:
+        raise AssertionError(f"{' '.join(map(str, command))}: {done.returncode}\n{done.stdout}{done.stderr}")
+    return done.stdout
+
+
+class InstalledTree(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        cls.work = pathlib.Path(folder.name)
+        cls.prefix = cls.work / "prefix"
+        run(GIVEN.cmake, "--install", GIVEN.build, "--prefix", cls.prefix)
+        cls.include = next(cls.prefix.rglob("x_ttml.h")).parent
+        cls.library = next(cls.prefix.rglob("libxttml.so"))
+        cls.environment = {**os.environ, "LD_LIBRARY_PATH": str(cls.library.parent)}
+        search = [str(cls.library.parent / "pkgconfig"), os.environ.get("PKG_CONFIG_PATH", "")]
+        cls.pkg_config_environment = {**cls.environment, "PKG_CONFIG_PATH": ":".join(filter(None, search))}
+
+    def pkg_config(self, *questions):
+        if not shutil.which("pkg-config"):
+            self.skipTest("pkg-config is not installed")
+        return run("pkg-config", *questions, env=self.pkg_config_environment).split()
+
+    def check_player(self, program):
+        drawn = run(program, env=self.environment).splitlines()
+        self.assertEqual([line for line in DRAWN.splitlines() if line not in drawn], [])
+
+    def check_saving_tool(self, program):
+        saved = run(program, env=self.environment)
+        self.assertIn(SAVED, saved)
+        self.assertIn('<p begin="5s" end="2s">text</p>', saved)
+
+    # Headers.
+
+    def test_every_header_compiles_alone(self):
+        headers = sorted(self.include.rglob("*.h"))
+        self.assertIn(self.include / "x_ttml.h", headers)
+        jobs = [(GIVEN.cxx, "c++", CPP17, header) for header in headers]
+        for name in ("x_ttml.h", "x_ttml_version.h", "runtime/export.h"):
+            jobs.append((GIVEN.cc, "c", C99, self.include / name))
+
+        def compile_twice_included(job):
+            compiler, language, standard, header = job
+            text = f'#include "{header}"\n' * 2 + "int main(void) { return 0; }\n"
+            run(compiler, "-x", language, *standard, *WARNINGS, "-I", self.include, "-fsyntax-only", "-", input=text)
+
+        with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+            list(pool.map(compile_twice_included, jobs))
+
+    def test_a_player_needs_no_header_of_the_xml_library(self):
+        text = run(GIVEN.cxx, "-x", "c++", *CPP17, "-M", "-I", self.include, self.include / "x_ttml.h")
+        self.assertIn("display_item.h", text)
+        self.assertNotIn("xercesc", text)
+
+    # The version.
+
+    def test_the_copies_of_the_version_agree(self):
+        given = (pathlib.Path(GIVEN.source) / "CMakeLists.txt").read_text()
+        version = re.search(r"^project\(xttml VERSION (\d+\.\d+\.\d+) ", given, re.MULTILINE)[1]
+        abi = re.search(r"^set\(XTTML_ABI (\d+)\)", given, re.MULTILINE)[1]
+        dynamic = run(GIVEN.readelf, "-dVW", self.library)
+
+        self.assertEqual(self.library.resolve().name, f"libxttml.so.{version}")
+        self.assertEqual(re.search(r"soname: \[(.*)\]", dynamic)[1], f"libxttml.so.{abi}")
+        self.assertEqual((self.library.parent / f"libxttml.so.{abi}").resolve(), self.library.resolve())
+        self.assertEqual(set(re.findall(r"\((XTTML_\w+)\)", dynamic)), {f"XTTML_{abi}"})
+        self.assertEqual(self.version_in_header(), version)
+        self.assertEqual(run(self.prefix / "bin" / "xttml", "--version").split()[-1], version)
+        changes = (pathlib.Path(GIVEN.source) / "CHANGELOG.md").read_text()
+        self.assertEqual(re.search(r"^## (\S+)", changes, re.MULTILINE)[1], version)
+        self.assertEqual(self.pkg_config("--modversion", "xttml"), [version])
+
+    def version_in_header(self):
+        text = "#include <x_ttml.h>\nXTTML_VERSION XTTML_VERSION_MAJOR XTTML_VERSION_MINOR XTTML_VERSION_PATCH\n"
+        read = run(GIVEN.cc, "-x", "c", *C99, "-E", "-P", "-I", self.include, "-", input=text)
+        version, *parts = read.splitlines()[-1].split()
+        self.assertEqual(version, f'"{".".join(parts)}"')
+        return ".".join(parts)
+
+    # Clients.
+
+    def test_clients_by_pkg_config(self):
+        flags = self.pkg_config("--cflags", "--libs", "xttml")
+        both = self.pkg_config("--cflags", "--libs", "xttml", "xerces-c")
+        compilers = [
+            (C_PLAYER, [GIVEN.cc, *C99], flags),
+            (HERE / "clients" / "cpp_player.cpp", [GIVEN.cxx, *CPP17], flags),
+            (HERE / "clients" / "saving_tool.cpp", [GIVEN.cxx, *CPP17], both),
+        ]
+        for source, compiler, libraries in compilers:
+            run(*compiler, *WARNINGS, source, *libraries, "-o", self.work / source.stem)
+        run(self.work / C_PLAYER.stem, env=self.environment)
+        self.check_player(self.work / "cpp_player")
+        self.check_saving_tool(self.work / "saving_tool")
+
+    def test_clients_by_find_package(self):
+        build = self.work / "clients"
+        found = run(
+            GIVEN.cmake, "-S", HERE / "clients", "-B", build, f"-DCMAKE_PREFIX_PATH={self.prefix}",
+            f"-DCMAKE_C_COMPILER={GIVEN.cc}", f"-DCMAKE_CXX_COMPILER={GIVEN.cxx}", f"-DC_PLAYER={C_PLAYER}",
+        )
+        self.assertIn(f"xttml_VERSION={self.version_in_header()}", found)
+        run(GIVEN.cmake, "--build", build, "--parallel", str(os.cpu_count()))
+        run(build / "c_player", env=self.environment)
+        self.check_player(build / "cpp_player")
+        self.check_saving_tool(build / "saving_tool")
+
+    # The functions.
+
+    def declarations(self):
+        """The prototypes of the header, {name: text on one line}."""
+        text = re.sub(r"/\*.*?\*/", "", (self.include / "x_ttml.h").read_text(), flags=re.DOTALL)
+        prototypes = [re.sub(r"\s+", " ", found) for found in re.findall(r"^XTTML_API ([^;]*;)", text, re.MULTILINE)]
+        return {re.search(r"\b(x_ttml_\w+)\(", prototype)[1]: prototype for prototype in prototypes}
+
+    def test_every_function_is_called_from_c(self):
+        called = set(re.findall(r"\b(x_ttml_\w+)\(", C_PLAYER.read_text()))
+        self.assertEqual(set(self.declarations()) - called, set())
+
+    def test_the_manual_page_gives_every_function_as_it_is_declared(self):
+        page = (self.prefix / "share" / "man" / "man3" / "xttml.3").read_text()
+        self.assertEqual(sorted(re.findall(r"^\.B (.*\);)$", page, re.MULTILINE)), sorted(self.declarations().values()))
+        if shutil.which("groff"):
+            run("sh", "-c", 'test -z "$(groff -man -ww -Tutf8 - 2>&1 >/dev/null)"', input=page)
+
+
+if __name__ == "__main__":
+    GIVEN = read_arguments()
+    unittest.main(argv=sys.argv[:1])
