@@ -53,9 +53,9 @@ class InstalledTree(unittest.TestCase):
         cls.prefix = cls.work / "prefix"
         run(GIVEN.cmake, "--install", GIVEN.build, "--prefix", cls.prefix)
         cls.include = next(cls.prefix.rglob("x_ttml.h")).parent
-        cls.library = next(cls.prefix.rglob("libxttml.so"))
-        cls.environment = {**os.environ, "LD_LIBRARY_PATH": str(cls.library.parent)}
-        search = [str(cls.library.parent / "pkgconfig"), os.environ.get("PKG_CONFIG_PATH", "")]
+        cls.shared_library = next(cls.prefix.rglob("libxttml.so"))
+        cls.environment = {**os.environ, "LD_LIBRARY_PATH": str(cls.shared_library.parent)}
+        search = [str(cls.shared_library.parent / "pkgconfig"), os.environ.get("PKG_CONFIG_PATH", "")]
         cls.pkg_config_environment = {**cls.environment, "PKG_CONFIG_PATH": ":".join(filter(None, search))}
 
     def pkg_config(self, *questions):
@@ -100,11 +100,11 @@ class InstalledTree(unittest.TestCase):
         given = (pathlib.Path(GIVEN.source) / "CMakeLists.txt").read_text()
         version = re.search(r"^project\(xttml VERSION (\d+\.\d+\.\d+) ", given, re.MULTILINE)[1]
         abi = re.search(r"^set\(XTTML_ABI (\d+)\)", given, re.MULTILINE)[1]
-        dynamic = run(GIVEN.readelf, "-dVW", self.library)
+        dynamic = run(GIVEN.readelf, "-dVW", self.shared_library)
 
-        self.assertEqual(self.library.resolve().name, f"libxttml.so.{version}")
+        self.assertEqual(self.shared_library.resolve().name, f"libxttml.so.{version}")
         self.assertEqual(re.search(r"soname: \[(.*)\]", dynamic)[1], f"libxttml.so.{abi}")
-        self.assertEqual((self.library.parent / f"libxttml.so.{abi}").resolve(), self.library.resolve())
+        self.assertEqual((self.shared_library.parent / f"libxttml.so.{abi}").resolve(), self.shared_library.resolve())
         self.assertEqual(set(re.findall(r"\((XTTML_\w+)\)", dynamic)), {f"XTTML_{abi}"})
         self.assertEqual(self.version_in_header(), version)
         self.assertEqual(run(self.prefix / "bin" / "xttml", "--version").split()[-1], version)
