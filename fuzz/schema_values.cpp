@@ -1,4 +1,5 @@
 // Any text as a value of XML Schema: what is read and written reads back equal.
+#include "binding/tables.h"
 #include "fuzz/choices.h"
 #include "fuzz/fuzzer.h"
 #include "fuzz/invariant.h"
@@ -174,6 +175,17 @@ void RequireWhitespace(const std::string& text) {
     Require(TrimWhitespace(TrimWhitespace(text)) == TrimWhitespace(text), "white space is trimmed once");
 }
 
+/// No type of TTML's schema has a facet that is checked.
+void RequireType(const TypeInfo& type, const std::string& text, long long number) {
+    Require(XsSchemaValidation::Validate(text, type), "every value is valid");
+    if (!type.formatter)
+        return;
+    const XmlFormatter& formatter = **type.formatter;
+    const std::vector<unsigned char> bytes(text.begin(), text.end());
+    Require(formatter.ParseBinary(formatter.Format(bytes)) == bytes, "formatted bytes read back");
+    Require(CoreTypes::CastToInt64(formatter.Format(number)) == number, "a formatted long reads back");
+}
+
 void RequireName(const std::string& text) {
     const QName name = CoreTypes::CastToQName(text);
     const QName again(name.uri, name.ToString());
@@ -197,5 +209,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     RequireBinary(text);
     RequireWhitespace(text);
     RequireName(text);
+    RequireType(ttaf1_dfxp::types[bits % ttaf1_dfxp::TYPE_COUNT], text, static_cast<std::int64_t>(bits));
     return 0;
 }

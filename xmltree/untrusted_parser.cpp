@@ -54,7 +54,6 @@ public:
         return count;
     }
     const XMLCh* getContentType() const override { return stream_->getContentType(); }
-    const XMLCh* getEncoding() const override { return stream_->getEncoding(); }
 
 private:
     std::unique_ptr<BinInputStream> stream_;
