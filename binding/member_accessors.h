@@ -12,8 +12,10 @@
 #include "xmltree/tree_operations.h"
 
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ttaf1_dfxp {
@@ -62,6 +64,8 @@ class MemberAttribute {
     static_assert(CAST_TO<T> != nullptr);
 
 public:
+    using Value = T; ///< what the attribute is read as
+
     /// `owner`: the wrapper that the accessor belongs to; must outlive it.
     explicit MemberAttribute(const TypeBase& owner) : owner_(owner) {}
     MemberAttribute(const MemberAttribute&) = delete;
@@ -87,10 +91,7 @@ public:
     }
 
     /// The value if the attribute exists, found by one lookup. Throws only what the conversion throws.
-    std::optional<T> value() const {
-        const xercesc::DOMNode* attribute = Find();
-        return attribute ? std::optional<T>(CAST_TO<T>(attribute, members[member])) : std::nullopt;
-    }
+    std::optional<T> value() const { return Convert(Find()); }
 
     /// The text of the attribute if it exists, as it stands. Throws no conversion exception.
     std::optional<std::string> text() const {
@@ -100,12 +101,32 @@ public:
     }
 
 private:
+    template <class... Attributes>
+    friend auto values(const Attributes&... attributes);
+
+    static XercesTreeOperations::SoughtAttribute Sought() { return {&members[member]}; }
+    static std::optional<T> Convert(const xercesc::DOMNode* attribute) {
+        return attribute ? std::optional<T>(CAST_TO<T>(attribute, members[member])) : std::nullopt;
+    }
     const xercesc::DOMNode* Find() const {
         return XercesTreeOperations::FindAttribute(owner_.GetNode(), members[member]);
     }
 
     const TypeBase& owner_;
 };
+
+/// The value() of several attributes of one element, found together by one pass over its attributes: a tuple
+/// in the order of the arguments, in which they are converted, too.
+template <class... Attributes>
+auto values(const Attributes&... attributes) {
+    XercesTreeOperations::SoughtAttribute sought[] = {Attributes::Sought()...};
+    XercesTreeOperations::FindAttributes(std::get<0>(std::tie(attributes...)).owner_.GetNode(), sought,
+                                         std::size(sought));
+    std::tuple<std::optional<typename Attributes::Value>...> result;
+    const XercesTreeOperations::SoughtAttribute* next = sought;
+    std::apply([&next](auto&... value) { ((value = Attributes::Convert((next++)->found)), ...); }, result);
+    return result;
+}
 
 /// Walks the child elements of a kind: a wrapper of one after the other. Single-pass:
 /// `for (auto p = div.p.all(); p.CurrentNode(); ++p)`.

@@ -120,7 +120,7 @@ void TtmlParser::vAppendImage(const Cdiv_eltype& division, const TimeRates& rate
     const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
     vReadGeometry(division, PairOutcome::UNCHANGED, area, item->styling);
     if (fgReadForced)
-        fgRead(division.forcedDisplayMode, [&](bool fgForced) { item->fgForcedDisplay = fgForced; });
+        item->fgForcedDisplay = division.forcedDisplayMode.value().value_or(false);
     vAppend(std::move(item));
 }
 

@@ -171,12 +171,7 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
     vGenerateStyleAttribSequence();
     std::optional<TimeRates> rates;
     for (; itrP.CurrentNode(); ++itrP) {
-        auto item = rMakeTextItem(itrP);
-        if (!rates)
-            rates = rReadTimeRates();
-        item->vSetTime(iShifted(iReadTime(itrP.begin.value(), *rates), iOffset),
-                       iShifted(iReadTime(itrP.end.value(), *rates), iOffset));
-        vAppend(std::move(item));
+        vAppend(rMakeTextItem(itrP, rates, iOffset));
         vExtendDocumentTime(*vecDisplaySequence_.back());
     }
     timeIndex_.vBuild(vecDisplaySequence_);
@@ -184,22 +179,28 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
     std::cout << strGetDocLanguage() << std::endl;
 }
 
-std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph) const {
+std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,
+                                                    std::optional<TimeRates>& rates, int iOffset) const {
+    const auto [fgForced, strRegion, strStyle, strBegin, strEnd] =
+        values(paragraph.forcedDisplayMode, paragraph.region, paragraph.style, paragraph.begin, paragraph.end);
     auto item = std::make_unique<TextItem>();
-    fgRead(paragraph.forcedDisplayMode, [&](bool fgForced) { item->fgForcedDisplay = fgForced; });
-    vReadRegionAndStyle(paragraph, *item);
+    item->fgForcedDisplay = fgForced.value_or(false);
+    vSetRegionAndStyle(strRegion, strStyle, *item);
     if (paragraph.color.namespaceExists()) { // most paragraphs have no tts: attribute at all
         const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
         vReadGeometry(paragraph, PairOutcome::UNCHANGED, area, item->styling);
         vReadStyling(paragraph, paragraphRules, item->styling);
     }
     vReadContent(*paragraph.GetNode(), *item);
+    if (!rates)
+        rates = rReadTimeRates();
+    item->vSetTime(iShifted(iReadTime(strBegin, *rates), iOffset),
+                   iShifted(iReadTime(strEnd, *rates), iOffset));
     return item;
 }
 
-void TtmlParser::vReadRegionAndStyle(const Cp_eltype& paragraph, TextItem& item) const {
-    const std::optional<std::string> strRegion = paragraph.region.value();
-    const std::optional<std::string> strStyle = paragraph.style.value();
+void TtmlParser::vSetRegionAndStyle(const std::optional<std::string>& strRegion,
+                                    const std::optional<std::string>& strStyle, TextItem& item) const {
     item.pRegionAttrib = strRegion ? prGetRegionByID(*strRegion) : nullptr;
     item.pStyleAttrib = strStyle ? prGetStyleByID(*strStyle) : nullptr;
     const StylingAttrib& region = strRegion ? rOrDefault(item.pRegionAttrib) : rootStyling_;

@@ -186,8 +186,10 @@ private:
     void vExtendDocumentTime(const DisplayItem& item);
     void vWriteDocumentTime() const;
 
-    std::unique_ptr<TextItem> rMakeTextItem(const ttaf1_dfxp::tt::Cp_eltype& paragraph) const;
-    void vReadRegionAndStyle(const ttaf1_dfxp::tt::Cp_eltype& paragraph, TextItem& item) const;
+    std::unique_ptr<TextItem> rMakeTextItem(const ttaf1_dfxp::tt::Cp_eltype& paragraph,
+                                            std::optional<TimeRates>& rates, int iOffset) const;
+    void vSetRegionAndStyle(const std::optional<std::string>& strRegion,
+                            const std::optional<std::string>& strStyle, TextItem& item) const;
     void vAppendImages(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset);
     void vAppendImage(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset,
                       bool fgReadForced);

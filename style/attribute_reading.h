@@ -7,6 +7,7 @@
 #include "style/styling_attrib.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -61,70 +62,66 @@ std::uint32_t uReadLength(const std::string& strText, const LengthRule& rule, st
 void vReadPair(const std::string& strText, PairOutcome eOther, const Extent& base, std::uint32_t& uFirst,
                std::uint32_t& uSecond);
 
-/// Hands the value of an attribute to `take`, when the element carries it, and tells whether it does.
-template <class Attribute, class Take>
-bool fgRead(const Attribute& attribute, Take&& take) {
-    auto value = attribute.value();
-    if (value)
-        take(std::move(*value));
-    return value.has_value();
+/// Stores the value of an attribute, when the element carries it, and tells whether it does.
+inline bool fgReadText(std::optional<std::string>&& strText, std::string& strField) {
+    if (strText)
+        strField = std::move(*strText);
+    return strText.has_value();
 }
 
-template <class Attribute>
-bool fgReadText(const Attribute& attribute, std::string& strField) {
-    return fgRead(attribute, [&](std::string&& strText) { strField = std::move(strText); });
+template <class Field>
+bool fgReadKeyword(const std::optional<std::string>& strText, Field (*convert)(const std::string&),
+                   Field& field) {
+    if (strText)
+        field = convert(*strText);
+    return strText.has_value();
 }
 
-template <class Attribute, class Field>
-bool fgReadKeyword(const Attribute& attribute, Field (*convert)(const std::string&), Field& field) {
-    return fgRead(attribute, [&](const std::string& strText) { field = convert(strText); });
-}
-
-template <class Attribute>
-bool fgReadLength(const Attribute& attribute, const LengthRule& rule, const std::uint32_t& uFontSize,
-                  std::uint32_t& uField) {
-    return fgRead(attribute, [&](const std::string& strText) {
-        uField = uReadLength(strText, rule, uField, uFontSize);
-    });
+inline bool fgReadLength(const std::optional<std::string>& strText, const LengthRule& rule,
+                         const std::uint32_t& uFontSize, std::uint32_t& uField) {
+    if (strText)
+        uField = uReadLength(*strText, rule, uField, uFontSize);
+    return strText.has_value();
 }
 
 /// Reads tts:extent and tts:origin of a region, paragraph or division over the values of the record.
 /// @param base what percentages are of
 template <class Element>
 void vReadGeometry(const Element& element, PairOutcome eOther, const Extent& base, StylingAttrib& attrib) {
-    fgRead(element.extent, [&](const std::string& strText) {
-        vReadPair(strText, eOther, base, attrib.uExtentWidth, attrib.uExtentHeight);
-    });
-    fgRead(element.origin, [&](const std::string& strText) {
-        vReadPair(strText, eOther, base, attrib.uOriginX, attrib.uOriginY);
-    });
+    const auto [strExtent, strOrigin] = values(element.extent, element.origin);
+    if (strExtent)
+        vReadPair(*strExtent, eOther, base, attrib.uExtentWidth, attrib.uExtentHeight);
+    if (strOrigin)
+        vReadPair(*strOrigin, eOther, base, attrib.uOriginX, attrib.uOriginY);
 }
 
 /// Reads the other tts: attributes of a style, region, paragraph or span over the values of the record. The
 /// font size comes before the line height, whatever order the document has.
 template <class Element>
 void vReadStyling(const Element& element, const ReadingRules& rules, StylingAttrib& attrib) {
+    auto [strBackground, strColor, strDisplayAlign, strFontSize, strFontStyle, strFontWeight, strLineHeight,
+          strTextAlign, strDecoration, strVisibility] =
+        values(element.backgroundColor, element.color, element.displayAlign, element.fontSize,
+               element.fontStyle, element.fontWeight, element.lineHeight, element.textAlign,
+               element.textDecoration, element.visibility);
     StylingAttrib& a = attrib;
     const auto vMark = [&rules](bool fgPresent, bool& fgFlag) {
         if (rules.fgMarkSet)
             fgFlag = fgPresent;
     };
-    fgReadText(element.backgroundColor, a.strBackgroundColor);
-    vMark(fgReadText(element.color, a.strColor), a.fgColorSet);
+    fgReadText(std::move(strBackground), a.strBackgroundColor);
+    vMark(fgReadText(std::move(strColor), a.strColor), a.fgColorSet);
     if (rules.fgBlock)
-        vMark(fgReadKeyword(element.displayAlign, eDisplayAlignFromKeyword, a.eDisplayAlign),
-              a.fgDisplayAlignSet);
-    vMark(fgReadLength(element.fontSize, rules.fontSize, a.uFontSize, a.uFontSize), a.fgFontSizeSet);
-    vMark(fgReadKeyword(element.fontStyle, iFontStyleFromKeyword, a.iFontStyle), a.fgFontStyleSet);
-    vMark(fgReadKeyword(element.fontWeight, iFontWeightFromKeyword, a.iFontWeight), a.fgFontWeightSet);
+        vMark(fgReadKeyword(strDisplayAlign, eDisplayAlignFromKeyword, a.eDisplayAlign), a.fgDisplayAlignSet);
+    vMark(fgReadLength(strFontSize, rules.fontSize, a.uFontSize, a.uFontSize), a.fgFontSizeSet);
+    vMark(fgReadKeyword(strFontStyle, iFontStyleFromKeyword, a.iFontStyle), a.fgFontStyleSet);
+    vMark(fgReadKeyword(strFontWeight, iFontWeightFromKeyword, a.iFontWeight), a.fgFontWeightSet);
     if (rules.fgBlock) {
-        vMark(fgReadLength(element.lineHeight, rules.lineHeight, a.uFontSize, a.uLineHeight),
-              a.fgLineHeightSet);
-        vMark(fgReadKeyword(element.textAlign, eTextAlignFromKeyword, a.eTextAlign), a.fgTextAlignSet);
+        vMark(fgReadLength(strLineHeight, rules.lineHeight, a.uFontSize, a.uLineHeight), a.fgLineHeightSet);
+        vMark(fgReadKeyword(strTextAlign, eTextAlignFromKeyword, a.eTextAlign), a.fgTextAlignSet);
     }
-    vMark(fgReadKeyword(element.textDecoration, eTextDecorationFromKeyword, a.eTextDecoration),
-          a.fgTextDecorationSet);
-    vMark(fgReadKeyword(element.visibility, iVisibilityFromKeyword, a.iVisibility), a.fgVisibilitySet);
+    vMark(fgReadKeyword(strDecoration, eTextDecorationFromKeyword, a.eTextDecoration), a.fgTextDecorationSet);
+    vMark(fgReadKeyword(strVisibility, iVisibilityFromKeyword, a.iVisibility), a.fgVisibilitySet);
 }
 
 #endif

@@ -31,7 +31,7 @@ void StyleTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root) {
     auto itrStyle = root.head.first().styling.first().style.all();
     for (; itrStyle.CurrentNode(); ++itrStyle) {
         StylingAttribGroup group;
-        fgReadText(itrStyle.id, group.strId);
+        group.strId = itrStyle.id.value().value_or("");
         vReadStyling(itrStyle, styleRules, group.attrib);
         vAppend(std::move(group));
     }
@@ -43,7 +43,7 @@ void RegionTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root, const Extent
         StylingAttribGroup group;
         group.attrib.uExtentWidth = rootExtent.uWidth;
         group.attrib.uExtentHeight = rootExtent.uHeight;
-        fgReadText(itrRegion.id, group.strId);
+        group.strId = itrRegion.id.value().value_or("");
         vReadGeometry(itrRegion, PairOutcome::ZERO, rootExtent, group.attrib);
         vReadStyling(itrRegion, regionRules, group.attrib);
         vAppend(std::move(group));

@@ -9,10 +9,13 @@ using xercesc::DOMNode;
 
 namespace {
 
-bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* localName) {
+const XMLCh* LocalNameOf(const DOMNode* attribute) {
     const XMLCh* name = attribute->getLocalName();
-    return (XercesTreeOperations::IsEqualString(name, localName) ||
-            (!name && XercesTreeOperations::IsEqualString(attribute->getNodeName(), localName))) &&
+    return name ? name : attribute->getNodeName();
+}
+
+bool HasNames(const DOMNode* attribute, const XMLCh* ownName, const char* namespaceURI, const char* localName) {
+    return XercesTreeOperations::IsEqualString(ownName, localName) &&
            XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI);
 }
 
@@ -94,11 +97,25 @@ DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const char* na
     const XMLSize_t count = attributes ? attributes->getLength() : 0;
     for (XMLSize_t i = 0; i < count; ++i) {
         DOMNode* attribute = attributes->item(i);
-        if (HasName(attribute, namespaceURI, localName)) {
+        if (HasNames(attribute, LocalNameOf(attribute), namespaceURI, localName)) {
             return attribute;
         }
     }
     return nullptr;
+}
+
+void XercesTreeOperations::FindAttributes(const DOMNode* node, SoughtAttribute* sought, std::size_t count) {
+    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
+    const XMLSize_t attributeCount = attributes ? attributes->getLength() : 0;
+    for (XMLSize_t i = 0; i < attributeCount; ++i) {
+        const DOMNode* attribute = attributes->item(i);
+        const XMLCh* name = LocalNameOf(attribute);
+        for (SoughtAttribute* one = sought; one != sought + count; ++one) {
+            if (HasNames(attribute, name, one->member->namespaceURI, one->member->localName)) {
+                one->found = attribute;
+            }
+        }
+    }
 }
 
 bool XercesTreeOperations::HasAttributeInNamespace(const DOMNode* node, const tessera::MemberInfo& member) {

@@ -17,6 +17,7 @@
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/dom/DOMNode.hpp>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -92,6 +93,13 @@ public:
     /// none. Finds what DOMNamedNodeMap::getNamedItemNS finds.
     static xercesc::DOMNode* FindAttribute(const xercesc::DOMNode* node, const char* namespaceURI,
                                            const char* localName);
+    /// An attribute to look for and the attribute of an element that is it; null while there is none.
+    struct SoughtAttribute {
+        const tessera::MemberInfo* member;
+        const xercesc::DOMNode* found = nullptr;
+    };
+    /// Looks for `count` attributes in one pass over those of an element; fills in those that it carries.
+    static void FindAttributes(const xercesc::DOMNode* node, SoughtAttribute* sought, std::size_t count);
     /// Whether an element carries any attribute of the member's namespace.
     static bool HasAttributeInNamespace(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
     /// All children.
