@@ -91,7 +91,11 @@ public:
     }
 
     /// The value if the attribute exists, found by one lookup. Throws only what the conversion throws.
-    std::optional<T> value() const { return Convert(Find()); }
+    std::optional<T> value() const {
+        std::optional<T> value;
+        Convert(Find(), value);
+        return value;
+    }
 
     /// The text of the attribute if it exists, as it stands. Throws no conversion exception.
     std::optional<std::string> text() const {
@@ -105,8 +109,10 @@ private:
     friend auto values(const Attributes&... attributes);
 
     static XercesTreeOperations::SoughtAttribute Sought() { return {&members[member]}; }
-    static std::optional<T> Convert(const xercesc::DOMNode* attribute) {
-        return attribute ? std::optional<T>(CAST_TO<T>(attribute, members[member])) : std::nullopt;
+    static void Convert(const xercesc::DOMNode* attribute, std::optional<T>& value) {
+        if (attribute) {
+            value.emplace(CAST_TO<T>(attribute, members[member]));
+        }
     }
     const xercesc::DOMNode* Find() const {
         return XercesTreeOperations::FindAttribute(owner_.GetNode(), members[member]);
@@ -124,7 +130,7 @@ auto values(const Attributes&... attributes) {
                                          std::size(sought));
     std::tuple<std::optional<typename Attributes::Value>...> result;
     const XercesTreeOperations::SoughtAttribute* next = sought;
-    std::apply([&next](auto&... value) { ((value = Attributes::Convert((next++)->found)), ...); }, result);
+    std::apply([&next](auto&... value) { (Attributes::Convert((next++)->found, value), ...); }, result);
     return result;
 }
 

@@ -56,6 +56,10 @@ Cttaf1_dfxp Cttaf1_dfxp::LoadFromBinary(const std::vector<unsigned char>& bytes)
     return Cttaf1_dfxp(XercesTreeOperations::LoadFromBinary(bytes));
 }
 
+Cttaf1_dfxp Cttaf1_dfxp::LoadFromBinary(const unsigned char* bytes, std::size_t size) {
+    return Cttaf1_dfxp(XercesTreeOperations::LoadFromBinary(bytes, size));
+}
+
 Cttaf1_dfxp Cttaf1_dfxp::CreateDocument() {
     return Cttaf1_dfxp(XercesTreeOperations::CreateDocument());
 }

@@ -28,6 +28,7 @@
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -44,8 +45,11 @@ public:
     static Cttaf1_dfxp LoadFromFile(const std::string& path);
     /// Reads the bytes of a string.
     static Cttaf1_dfxp LoadFromString(const std::string& text);
-    /// Reads bytes.
+    /// @{
+    /// Reads bytes, during the call only.
     static Cttaf1_dfxp LoadFromBinary(const std::vector<unsigned char>& bytes);
+    static Cttaf1_dfxp LoadFromBinary(const unsigned char* bytes, std::size_t size);
+    /// @}
     /// A new, empty document.
     static Cttaf1_dfxp CreateDocument();
 

@@ -81,6 +81,7 @@ void TtmlParser::vClearDisplaySequence() {
         pItem = nullptr;
     }
     vecDisplaySequence_.clear();
+    itemMemory_.release();
     timeIndex_.vClear();
     vecEarlierBuffers_.clear();
 }

@@ -1,4 +1,5 @@
 #include "parser/content_walk.h"
+#include "parser/paragraph_item.h"
 #include "parser/ttml_parser.h"
 #include "style/attribute_reading.h"
 
@@ -14,7 +15,6 @@ using namespace ttaf1_dfxp::tt;
 namespace {
 
 constexpr char16_t lineBreak = u'\n';
-constexpr std::size_t uUsualSentences = 4; // two lines of text, the break between them and one run more
 
 void vAppendText(const xercesc::DOMNode& text, std::vector<char16_t>& vecTarget) {
     const XMLCh* const pUnits = text.getNodeValue();
@@ -33,21 +33,7 @@ void vAppendText(const xercesc::DOMNode& text, std::string& strTarget) {
     strTarget += transcoded.get();
 }
 
-Sentence& rAppendSentence(std::vector<Sentence*>& vecSentences) {
-    auto sentence = std::make_unique<Sentence>();
-    vecSentences.push_back(sentence.get());
-    return *sentence.release();
-}
-
-/// A sentence without styling of its own for a text node.
-Sentence& rAppendTextSentence(const xercesc::DOMNode& text, std::vector<Sentence*>& vecSentences) {
-    Sentence& sentence = rAppendSentence(vecSentences);
-    vAppendText(text, sentence.vecText);
-    return sentence;
-}
-
-void vAppendLineBreakSentence(std::vector<Sentence*>& vecSentences) {
-    Sentence& sentence = rAppendSentence(vecSentences);
+void vMakeLineBreak(Sentence& sentence) {
     sentence.vecText.push_back(lineBreak);
     sentence.fgLineBreak = true;
 }
@@ -56,23 +42,31 @@ void vAppendLineBreakSentence(std::vector<Sentence*>& vecSentences) {
 class SentenceCollector {
 public:
     SentenceCollector(std::vector<Sentence*>& vecSentences, const StylingAttrib& enclosing)
-        : vecSentences_(vecSentences), enclosing_(enclosing) {}
+        : vecSentences_(vecSentences), styling_(enclosing) {}
 
     void vEnterSpan(xercesc::DOMNode& span) {
-        vecStyling_.push_back(vecStyling_.empty() ? enclosing_ : vecStyling_.back());
-        vReadStyling(Cspan_eltype(&span), spanRules, vecStyling_.back());
+        if (uOpenSpans_++ > 0)
+            vecOuterStyling_.push_back(styling_);
+        vReadStyling(Cspan_eltype(&span), spanRules, styling_);
     }
-    void vLeaveSpan() { vecStyling_.pop_back(); }
+    void vLeaveSpan() {
+        if (--uOpenSpans_ == 0)
+            return;
+        styling_ = std::move(vecOuterStyling_.back());
+        vecOuterStyling_.pop_back();
+    }
     void vText(const xercesc::DOMNode& text) {
-        Sentence& sentence = rAppendTextSentence(text, vecSentences_);
-        sentence.pStylingAttrib = std::make_unique<StylingAttrib>(vecStyling_.back()).release();
+        Sentence& sentence = rAppendNewSentence(vecSentences_);
+        vAppendText(text, sentence.vecText);
+        sentence.pStylingAttrib = std::make_unique<StylingAttrib>(styling_).release();
     }
-    void vLineBreak() { vAppendLineBreakSentence(vecSentences_); }
+    void vLineBreak() { vMakeLineBreak(rAppendNewSentence(vecSentences_)); }
 
 private:
     std::vector<Sentence*>& vecSentences_;
-    const StylingAttrib& enclosing_;
-    std::vector<StylingAttrib> vecStyling_; // of the open spans, innermost last
+    std::size_t uOpenSpans_ = 0;
+    StylingAttrib styling_;                      // of the innermost open span
+    std::vector<StylingAttrib> vecOuterStyling_; // of the spans around it, outermost first
 };
 
 /// Gathers the text of a span, whatever the spans inside it.
@@ -90,10 +84,9 @@ private:
     Text& text_;
 };
 
-/// A style laid over the styling of a region. What the style did not give is the region's; so is the area in
-/// any case, and the weight under a style that is not bold.
-void vLayStyleOver(const StylingAttrib& region, const StylingAttrib& style, StylingAttrib& styling) {
-    styling = style;
+/// Completes the styling of a style by that of the region under it: what the style did not give is the
+/// region's, so is the area in any case, and the weight under a style that is not bold.
+void vLayOverRegion(const StylingAttrib& region, StylingAttrib& styling) {
     styling.uExtentWidth = region.uExtentWidth;
     styling.uExtentHeight = region.uExtentHeight;
     styling.uOriginX = region.uOriginX;
@@ -102,30 +95,29 @@ void vLayStyleOver(const StylingAttrib& region, const StylingAttrib& style, Styl
         if (!fgSet)
             styling.*pField = region.*pField;
     };
-    vKeep(style.fgColorSet, &StylingAttrib::strColor);
-    vKeep(style.fgFontSizeSet, &StylingAttrib::uFontSize);
-    vKeep(style.fgFontStyleSet, &StylingAttrib::iFontStyle);
-    vKeep(style.iFontWeight != 0, &StylingAttrib::iFontWeight);
-    vKeep(style.fgLineHeightSet, &StylingAttrib::uLineHeight);
-    vKeep(style.fgTextAlignSet, &StylingAttrib::eTextAlign);
-    vKeep(style.fgTextDecorationSet, &StylingAttrib::eTextDecoration);
-    vKeep(style.fgVisibilitySet, &StylingAttrib::iVisibility);
-    vKeep(style.fgDisplayAlignSet, &StylingAttrib::eDisplayAlign);
+    vKeep(styling.fgColorSet, &StylingAttrib::strColor);
+    vKeep(styling.fgFontSizeSet, &StylingAttrib::uFontSize);
+    vKeep(styling.fgFontStyleSet, &StylingAttrib::iFontStyle);
+    vKeep(styling.iFontWeight != 0, &StylingAttrib::iFontWeight);
+    vKeep(styling.fgLineHeightSet, &StylingAttrib::uLineHeight);
+    vKeep(styling.fgTextAlignSet, &StylingAttrib::eTextAlign);
+    vKeep(styling.fgTextDecorationSet, &StylingAttrib::eTextDecoration);
+    vKeep(styling.fgVisibilitySet, &StylingAttrib::iVisibility);
+    vKeep(styling.fgDisplayAlignSet, &StylingAttrib::eDisplayAlign);
 }
 
 std::int32_t iReadTime(const std::optional<std::string>& strTime, const TimeRates& rates) {
     return strTime ? TtmlParser::iGetTimeFromString(*strTime, rates.iFrameRate, rates.fTickRate) : -1;
 }
 
-void vReadContent(xercesc::DOMNode& paragraph, TextItem& item) {
-    item.vecSentence.reserve(uUsualSentences);
+void vReadContent(xercesc::DOMNode& paragraph, ParagraphItem& item) {
     for (xercesc::DOMNode* pNode = paragraph.getFirstChild(); pNode; pNode = pNode->getNextSibling()) {
         switch (eGetContentKind(*pNode)) {
         case ContentKind::TEXT:
-            rAppendTextSentence(*pNode, item.vecSentence);
+            vAppendText(*pNode, item.rAppendSentence().vecText);
             break;
         case ContentKind::LINE_BREAK:
-            vAppendLineBreakSentence(item.vecSentence);
+            vMakeLineBreak(item.rAppendSentence());
             item.vecContent.push_back(lineBreak);
             break;
         case ContentKind::SPAN:
@@ -180,12 +172,19 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
 }
 
 std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,
-                                                    std::optional<TimeRates>& rates, int iOffset) const {
-    const auto [fgForced, strRegion, strStyle, strBegin, strEnd] =
-        values(paragraph.forcedDisplayMode, paragraph.region, paragraph.style, paragraph.begin, paragraph.end);
-    auto item = std::make_unique<TextItem>();
+                                                    std::optional<TimeRates>& rates, int iOffset) {
+    const auto [fgForced, strRegion, strStyle, strBegin, strEnd] = values(
+        paragraph.forcedDisplayMode, paragraph.region, paragraph.style, paragraph.begin, paragraph.end);
+    const StylingAttrib* const pRegion = strRegion ? prGetRegionByID(*strRegion) : nullptr;
+    const StylingAttrib* const pStyle = strStyle ? prGetStyleByID(*strStyle) : nullptr;
+    const StylingAttrib& region = strRegion ? rOrDefault(pRegion) : rootStyling_;
+    std::unique_ptr<ParagraphItem> item(new (itemMemory_)
+                                            ParagraphItem(strStyle ? rOrDefault(pStyle) : region));
     item->fgForcedDisplay = fgForced.value_or(false);
-    vSetRegionAndStyle(strRegion, strStyle, *item);
+    item->pRegionAttrib = pRegion;
+    item->pStyleAttrib = pStyle;
+    if (strStyle)
+        vLayOverRegion(region, item->styling);
     if (paragraph.color.namespaceExists()) { // most paragraphs have no tts: attribute at all
         const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
         vReadGeometry(paragraph, PairOutcome::UNCHANGED, area, item->styling);
@@ -197,15 +196,4 @@ std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,
     item->vSetTime(iShifted(iReadTime(strBegin, *rates), iOffset),
                    iShifted(iReadTime(strEnd, *rates), iOffset));
     return item;
-}
-
-void TtmlParser::vSetRegionAndStyle(const std::optional<std::string>& strRegion,
-                                    const std::optional<std::string>& strStyle, TextItem& item) const {
-    item.pRegionAttrib = strRegion ? prGetRegionByID(*strRegion) : nullptr;
-    item.pStyleAttrib = strStyle ? prGetStyleByID(*strStyle) : nullptr;
-    const StylingAttrib& region = strRegion ? rOrDefault(item.pRegionAttrib) : rootStyling_;
-    if (strStyle)
-        vLayStyleOver(region, rOrDefault(item.pStyleAttrib), item.styling);
-    else
-        item.styling = region;
 }

@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::int32_t iInvalid = -1;
 constexpr std::int32_t iLargestSixtieth = 59; // of the minutes of an hour and the seconds of a minute
-constexpr std::size_t uFractionDigits = 3;
 
 struct MetricUnit {
     const char* text;
@@ -32,31 +31,48 @@ const MetricUnit* prFindUnit(const std::string& strTime) {
     return nullptr;
 }
 
-/// The number in [uBegin, uEnd), 0 when that is empty; -1 when a character is no digit or it does not fit.
-std::int32_t iReadField(const std::string& strTime, std::size_t uBegin, std::size_t uEnd) {
-    std::int64_t iValue = 0;
-    for (std::size_t i = uBegin; i < std::min(uEnd, strTime.size()); ++i) {
-        if (!TtmlParser::fgIsNumberChar(strTime[i]))
-            return iInvalid;
-        iValue = iValue * 10 + (strTime[i] - '0');
-        if (iValue > std::numeric_limits<std::int32_t>::max())
-            return iInvalid;
+/// Reads the fields of a clock time from left to right. A field is 0 when it is empty and negative when a
+/// character is no digit or the number does not fit; what is read after such a field means nothing.
+class ClockFields {
+public:
+    explicit ClockFields(const std::string& strTime)
+        : pNext_(strTime.data()), pEnd_(strTime.data() + strTime.size()) {}
+
+    /// The field before a separator; without one, all that is left.
+    std::int32_t iReadUpTo(char separator) {
+        const std::int32_t iValue = iRead(pEnd_, separator);
+        pNext_ += pNext_ == pEnd_ ? 0 : 1;
+        return iValue;
     }
-    return static_cast<std::int32_t>(iValue);
-}
+    /// The first three characters of what is left.
+    std::int32_t iReadThousandths() { return iRead(pNext_ + iFractionLength()); }
+    /// The same as a decimal fraction in thousandths: missing digits count 0.
+    std::int32_t iReadFraction() {
+        const std::int32_t iPower = iMissingPowers[iFractionLength()];
+        return iReadThousandths() * iPower;
+    }
 
-/// The field after a point, at most three characters of it.
-std::int32_t iReadThousandths(const std::string& strTime, std::size_t uPoint) {
-    return iReadField(strTime, uPoint + 1, uPoint + 1 + uFractionDigits);
-}
+private:
+    static constexpr int iNoSeparator = -1;
+    static constexpr std::int32_t iMissingPowers[] = {1000, 100, 10, 1};
 
-/// The decimal fraction after a point in thousandths: missing digits count 0.
-std::int32_t iReadFraction(const std::string& strTime, std::size_t uPoint) {
-    std::int32_t iFraction = iReadThousandths(strTime, uPoint);
-    for (std::size_t i = strTime.size() - uPoint - 1; i < uFractionDigits && iFraction > 0; ++i)
-        iFraction *= 10;
-    return iFraction;
-}
+    std::ptrdiff_t iFractionLength() const { return std::min<std::ptrdiff_t>(pEnd_ - pNext_, 3); }
+
+    std::int32_t iRead(const char* pEnd, int iSeparator = iNoSeparator) {
+        std::int64_t iValue = 0;
+        for (; pNext_ != pEnd && static_cast<unsigned char>(*pNext_) != iSeparator; ++pNext_) {
+            if (!TtmlParser::fgIsNumberChar(*pNext_))
+                return iInvalid;
+            iValue = iValue * 10 + (*pNext_ - '0');
+            if (iValue > std::numeric_limits<std::int32_t>::max())
+                return iInvalid;
+        }
+        return static_cast<std::int32_t>(iValue);
+    }
+
+    const char* pNext_;
+    const char* pEnd_;
+};
 
 /// Milliseconds of a clock time; -1 when a field is invalid or the sum does not fit.
 std::int32_t iClockTime(std::int32_t iHours, std::int32_t iMinutes, std::int32_t iSeconds,
@@ -127,25 +143,23 @@ std::int32_t TtmlParser::iGetTimeFromString(const std::string& strTime, std::int
 }
 
 std::int32_t TtmlParser::iGetClockTimeWithoutFrame(const std::string& strTime) {
-    const std::size_t uFirst = std::min(strTime.find(':'), strTime.size());
-    const std::size_t uSecond = std::min(strTime.find(':', uFirst + 1), strTime.size());
-    const std::size_t uPoint = strTime.find('.', uSecond);
-    const std::int32_t iFraction = uPoint == std::string::npos ? 0 : iReadFraction(strTime, uPoint);
-    return iClockTime(iReadField(strTime, 0, uFirst), iReadField(strTime, uFirst + 1, uSecond),
-                      iReadField(strTime, uSecond + 1, uPoint), iFraction);
+    ClockFields fields(strTime);
+    const std::int32_t iHours = fields.iReadUpTo(':');
+    const std::int32_t iMinutes = fields.iReadUpTo(':');
+    const std::int32_t iSeconds = fields.iReadUpTo('.');
+    return iClockTime(iHours, iMinutes, iSeconds, fields.iReadFraction());
 }
 
 std::int32_t TtmlParser::iGetClockTimeWithFrame(const std::string& strTime, std::int32_t iFrameRate) {
-    const std::size_t uFirst = std::min(strTime.find(':'), strTime.size());
-    const std::size_t uSecond = std::min(strTime.find(':', uFirst + 1), strTime.size());
-    const std::size_t uThird = std::min(strTime.find(':', uSecond + 1), strTime.size());
-    const std::size_t uPoint = strTime.find('.', uThird);
-    const std::int64_t iFrames = iReadField(strTime, uThird + 1, uPoint);
-    const std::int64_t iSubFrames = uPoint == std::string::npos ? 0 : iReadThousandths(strTime, uPoint);
+    ClockFields fields(strTime);
+    const std::int32_t iHours = fields.iReadUpTo(':');
+    const std::int32_t iMinutes = fields.iReadUpTo(':');
+    const std::int32_t iSeconds = fields.iReadUpTo(':');
+    const std::int64_t iFrames = fields.iReadUpTo('.');
+    const std::int64_t iSubFrames = fields.iReadThousandths();
     if (iFrames < 0 || iSubFrames < 0 || iFrames >= iFrameRate)
         return iInvalid;
-    return iClockTime(iReadField(strTime, 0, uFirst), iReadField(strTime, uFirst + 1, uSecond),
-                      iReadField(strTime, uSecond + 1, uThird), (1000 * iFrames + iSubFrames) / iFrameRate);
+    return iClockTime(iHours, iMinutes, iSeconds, (1000 * iFrames + iSubFrames) / iFrameRate);
 }
 
 offset_time_metric_e TtmlParser::eGetOffsetTimeMetric(const std::string& strTime) {

@@ -15,7 +15,8 @@ constexpr std::int32_t iUnknownTime = -1;
 
 TtmlParser::TtmlParser()
     : iDocumentStartTime_(iUnknownTime), iDocumentEndTime_(iUnknownTime), iExtentWidth_(0), iExtentHeight_(0),
-      iSubtitleType_(0), iDocumentBufferSize_(0), uCurrentIndex_(0), documentRoot_(nullptr) {}
+      iSubtitleType_(0), itemMemory_(std::pmr::new_delete_resource()), iDocumentBufferSize_(0),
+      uCurrentIndex_(0), documentRoot_(nullptr) {}
 
 TtmlParser::~TtmlParser() {
     std::cout << "destruct Parser\n";
@@ -40,10 +41,9 @@ bool TtmlParser::fgLoadDocument(const char* path) {
 }
 
 bool TtmlParser::fgLoadDocument(const void* data, unsigned int size) {
-    const auto* const pBytes = static_cast<const unsigned char*>(data);
-    const std::vector<unsigned char> vecBytes(pBytes, pBytes ? pBytes + size : pBytes);
     try {
-        return fgHoldDocument(Cttaf1_dfxp::LoadFromBinary(vecBytes));
+        const auto* const pBytes = static_cast<const unsigned char*>(data);
+        return fgHoldDocument(Cttaf1_dfxp::LoadFromBinary(pBytes, pBytes ? size : 0));
     } catch (const tessera::DataSourceUnavailableException& exception) {
         std::cout << exception.message() << std::endl;
     } catch (...) {

@@ -103,3 +103,7 @@ DOMDocument* XercesTreeOperations::LoadXml(const std::string& text) {
 DOMDocument* XercesTreeOperations::LoadFromBinary(const std::vector<unsigned char>& bytes) {
     return LoadFromMemory(bytes.data(), bytes.size());
 }
+
+DOMDocument* XercesTreeOperations::LoadFromBinary(const unsigned char* bytes, std::size_t size) {
+    return LoadFromMemory(bytes, size);
+}

@@ -9,29 +9,22 @@ using xercesc::DOMNode;
 
 namespace {
 
-const XMLCh* LocalNameOf(const DOMNode* attribute) {
+bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* localName) {
     const XMLCh* name = attribute->getLocalName();
-    return name ? name : attribute->getNodeName();
-}
-
-bool HasNames(const DOMNode* attribute, const XMLCh* ownName, const char* namespaceURI, const char* localName) {
-    return XercesTreeOperations::IsEqualString(ownName, localName) &&
+    return (XercesTreeOperations::IsEqualString(name, localName) ||
+            (!name && XercesTreeOperations::IsEqualString(attribute->getNodeName(), localName))) &&
            XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI);
 }
 
-/// The value of a node. That of an attribute with a single text child is taken from the child: asked for it,
-/// an attribute of the XML library goes by way of dynamic casts.
-const XMLCh* ValueOf(const DOMNode* node) {
-    if (node->getNodeType() == DOMNode::ATTRIBUTE_NODE) {
-        const DOMNode* child = node->getFirstChild();
-        if (child && child->getNodeType() == DOMNode::TEXT_NODE && !child->getNextSibling()) {
-            return child->getNodeValue();
-        }
-    }
-    return node->getNodeValue();
+/// The value of an attribute. With a single text child it is taken from the child: asked for it, an
+/// attribute of the XML library goes by way of dynamic casts.
+const XMLCh* AttributeValue(const DOMNode* attribute) {
+    const DOMNode* child = attribute->getFirstChild();
+    const bool isPlain = child && child->getNodeType() == DOMNode::TEXT_NODE && !child->getNextSibling();
+    return (isPlain ? child : attribute)->getNodeValue();
 }
 
-enum class TextKind { NONE, OWN_VALUE, INSIDE };
+enum class TextKind { NONE, ATTRIBUTE, OWN_VALUE, INSIDE };
 
 TextKind TextKindOf(const DOMNode* node) {
     switch (node->getNodeType()) {
@@ -41,6 +34,7 @@ TextKind TextKindOf(const DOMNode* node) {
     case DOMNode::DOCUMENT_FRAGMENT_NODE:
         return TextKind::INSIDE;
     case DOMNode::ATTRIBUTE_NODE:
+        return TextKind::ATTRIBUTE;
     case DOMNode::TEXT_NODE:
     case DOMNode::CDATA_SECTION_NODE:
     case DOMNode::PROCESSING_INSTRUCTION_NODE:
@@ -97,21 +91,24 @@ DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const char* na
     const XMLSize_t count = attributes ? attributes->getLength() : 0;
     for (XMLSize_t i = 0; i < count; ++i) {
         DOMNode* attribute = attributes->item(i);
-        if (HasNames(attribute, LocalNameOf(attribute), namespaceURI, localName)) {
+        if (HasName(attribute, namespaceURI, localName)) {
             return attribute;
         }
     }
     return nullptr;
 }
 
+// Most names end at their first character.
 void XercesTreeOperations::FindAttributes(const DOMNode* node, SoughtAttribute* sought, std::size_t count) {
     const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
     const XMLSize_t attributeCount = attributes ? attributes->getLength() : 0;
     for (XMLSize_t i = 0; i < attributeCount; ++i) {
         const DOMNode* attribute = attributes->item(i);
-        const XMLCh* name = LocalNameOf(attribute);
+        const XMLCh* name = attribute->getLocalName();
         for (SoughtAttribute* one = sought; one != sought + count; ++one) {
-            if (HasNames(attribute, name, one->member->namespaceURI, one->member->localName)) {
+            const tessera::MemberInfo& member = *one->member;
+            const bool mayMatch = !name || *name == static_cast<unsigned char>(*member.localName);
+            if (mayMatch && HasName(attribute, member.namespaceURI, member.localName)) {
                 one->found = attribute;
             }
         }
@@ -133,8 +130,10 @@ std::string XercesTreeOperations::GetTextValue(const DOMNode* node) {
     switch (node ? TextKindOf(node) : TextKind::NONE) {
     case TextKind::INSIDE:
         return TextInside(node);
+    case TextKind::ATTRIBUTE:
+        return XercesUnstringTemp(AttributeValue(node));
     case TextKind::OWN_VALUE:
-        return XercesUnstringTemp(ValueOf(node));
+        return XercesUnstringTemp(node->getNodeValue());
     default:
         return {};
     }

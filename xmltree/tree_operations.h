@@ -76,6 +76,7 @@ public:
     static xercesc::DOMDocument* LoadXml(const std::string& text);
     /// Reads a document from bytes.
     static xercesc::DOMDocument* LoadFromBinary(const std::vector<unsigned char>& bytes);
+    static xercesc::DOMDocument* LoadFromBinary(const unsigned char* bytes, std::size_t size);
 
     // Queries. They allocate nothing, except for the text that they return.
 

@@ -38,8 +38,14 @@ TEST(NodeQueries, FindAttributeFindsWhatTheXmlLibraryFinds) {
         for (const char* name : {"begin", "colour", "id", "level1", "a", "xmlns", "beg", "beginning", ""}) {
             const DOMNode* expected = sample.Root()->getAttributes()->getNamedItemNS(
                 XercesStringTemp(namespaceURI), XercesStringTemp(name));
-            EXPECT_EQ(Tree::FindAttribute(sample.Root(), Attribute(namespaceURI, name)), expected)
-                << namespaceURI << " " << name;
+            const tessera::MemberInfo member = Attribute(namespaceURI, name);
+            const tessera::MemberInfo other = Attribute("urn:a", "colour");
+            EXPECT_EQ(Tree::FindAttribute(sample.Root(), member), expected) << namespaceURI << " " << name;
+            Tree::SoughtAttribute sought[] = {{&other}, {&member}};
+            Tree::FindAttributes(sample.Root(), sought, 2);
+            EXPECT_EQ(sought[1].found, expected) << namespaceURI << " " << name;
+            EXPECT_EQ(Tree::GetTextValue(sought[0].found), "");
+            EXPECT_NE(sought[0].found, nullptr);
             found += expected ? 1 : 0;
         }
         EXPECT_EQ(Tree::HasAttributeInNamespace(sample.Root(), Attribute(namespaceURI, "")),
