@@ -3,7 +3,10 @@
 #include "tests/xmltree/sample_document.h"
 
 #include <gtest/gtest.h>
+#include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/MemoryManager.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+#include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 
 #include <cstdio>
@@ -97,6 +100,62 @@ TEST(Loading, FromMemorySaysNothing) {
         }
     });
     EXPECT_EQ(output, "");
+}
+
+/// What the XML library makes of a text when it is left to itself: the document, else the message.
+struct PlainParse {
+    explicit PlainParse(const std::string& text) {
+        parser.setErrorHandler(&handler);
+        parser.setDoNamespaces(true);
+        try {
+            parser.parse(xercesc::MemBufInputSource(reinterpret_cast<const XMLByte*>(text.data()),
+                                                    text.size(), "String"));
+        } catch (const xercesc::SAXException& error) {
+            message = "Xerces SAX error while loading: " + XercesUnstringTemp(error.getMessage());
+        }
+    }
+
+    xercesc::XercesDOMParser parser;
+    xercesc::DefaultHandler handler;
+    std::string message; ///< empty: there is a document
+};
+
+TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
+    const XercesSession session;
+    const char* const texts[] = {
+        "<?xml version='1.0' encoding='UTF-8' standalone='yes'?>\n<!-- a --><tt>\r\n<?pi b?></tt>\n<!-- c "
+        "-->",
+        "<?xml version='1.1'?><tt a='&#1;'>\xC2\x85</tt>",
+        "\xEF\xBB\xBF<tt xml:id='i' xml:space='preserve' a=' b\tc\r\nd&#10;&lt;\xC3\xA4'/>",
+        "<tt xmlns='urn:a' xmlns:b='urn:b'><p xmlns=''><b:c b:d='1' "
+        "d='2'/></p>&amp;<![CDATA[&<]]>&#x1F600;</tt>",
+        "<tt a='1' xmlns:b='u' xmlns:c='u' b:d='1' c:d='2'/>",
+        "<tt a='<p>' a=''/>",
+        "<tt a='1'b='2'/>",
+        "<tt>&unknown;</tt>",
+        "<tt>]]></tt>",
+        "<tt xmlns:a=''/>",
+        "<a:tt/>",
+        "<tt>\xFF</tt>",
+        "<tt/><tt/>",
+        "<tt><!DOCTYPE tt></tt>",
+        "<tt>",
+    };
+    for (const char* text : texts) {
+        PlainParse plain(text);
+        try {
+            const SampleDocument sample(text);
+            const xercesc::DOMDocument& expected = *plain.parser.getDocument();
+            EXPECT_EQ(plain.message, "") << text;
+            EXPECT_TRUE(sample.Get()->isEqualNode(&expected)) << text;
+            EXPECT_TRUE(xercesc::XMLString::equals(sample.Get()->getXmlVersion(), expected.getXmlVersion()));
+            EXPECT_TRUE(
+                xercesc::XMLString::equals(sample.Get()->getXmlEncoding(), expected.getXmlEncoding()));
+            EXPECT_EQ(sample.Get()->getXmlStandalone(), expected.getXmlStandalone()) << text;
+        } catch (const tessera::DataSourceUnavailableException& failure) {
+            EXPECT_EQ(failure.message(), plain.message) << text;
+        }
+    }
 }
 
 TEST(Loading, WithoutTheXmlLibraryFailsInsteadOfCrashing) {
