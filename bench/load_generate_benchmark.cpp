@@ -18,8 +18,8 @@ namespace {
 
 constexpr int sizes[] = {100, 1000, 10000, 50000};
 constexpr int memorySize = 10000;
-constexpr double timeLimit = 1.25;
-constexpr double memoryLimit = 1.35;
+constexpr double timeLimit = 1.15;
+constexpr double memoryLimit = 1.25;
 constexpr char bareTask[] = "--bare-parse";
 constexpr char generateTask[] = "--load-and-generate";
 

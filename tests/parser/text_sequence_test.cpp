@@ -1,6 +1,7 @@
 #include "tests/parser/loaded_parser.h"
 
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -121,6 +122,31 @@ TEST_F(TextSequence, MakesSentences) {
         EXPECT_EQ(Describe(rLastItem()), std::string("[-1,-1] w=1024 h=768") + test.runs);
         EXPECT_EQ(strNarrow(dynamic_cast<const TextItem&>(rLastItem()).vecContent), test.breaks);
     }
+}
+
+// Whoever gives one back that is not on the heap, or keeps one that is, fails under the sanitizers.
+TEST_F(TextSequence, OwnsItsSentencesAndThoseOfThePlayer) {
+    const struct {
+        const char* content;
+        const char* runs;
+    } cases[] = {{"", " |''{size=7}"},
+                 {"1", " |'1' |''{size=7}"},
+                 {"1<br/>2", " |'1' |br |'2' |''{size=7}"},
+                 {"1<br/>2<br/>3<br/>", " |'1' |br |'2' |br |'3' |br |''{size=7}"}};
+    for (const auto& test : cases) {
+        vGenerateText(std::string("<p>") + test.content + "</p>");
+        auto& item = dynamic_cast<TextItem&>(*parser.vecGetDisplaySequence().back());
+        auto styling = std::make_unique<StylingAttrib>();
+        styling->uFontSize = 7;
+        auto sentence = std::make_unique<Sentence>();
+        sentence->pStylingAttrib = styling.release();
+        item.pGetSentenceSeq()->push_back(sentence.get());
+        sentence.release();
+        EXPECT_EQ(Describe(item), std::string("[-1,-1] w=1024 h=768") + test.runs);
+    }
+    CapturedOutput([&] { parser.vClearDisplaySequence(); });
+    vGenerateText("<p>1</p>");
+    EXPECT_EQ(Describe(rItem(0)), "[-1,-1] w=1024 h=768 |'1'");
 }
 
 TEST_F(TextSequence, FlattensSpans) {

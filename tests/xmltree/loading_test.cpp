@@ -1,12 +1,10 @@
 #include "runtime/exceptions.h"
 #include "tests/support/captured_output.h"
+#include "tests/support/plain_parse.h"
 #include "tests/xmltree/sample_document.h"
 
 #include <gtest/gtest.h>
-#include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/MemoryManager.hpp>
-#include <xercesc/parsers/XercesDOMParser.hpp>
-#include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 
 #include <cstdio>
@@ -102,24 +100,6 @@ TEST(Loading, FromMemorySaysNothing) {
     EXPECT_EQ(output, "");
 }
 
-/// What the XML library makes of a text when it is left to itself: the document, else the message.
-struct PlainParse {
-    explicit PlainParse(const std::string& text) {
-        parser.setErrorHandler(&handler);
-        parser.setDoNamespaces(true);
-        try {
-            parser.parse(xercesc::MemBufInputSource(reinterpret_cast<const XMLByte*>(text.data()),
-                                                    text.size(), "String"));
-        } catch (const xercesc::SAXException& error) {
-            message = "Xerces SAX error while loading: " + XercesUnstringTemp(error.getMessage());
-        }
-    }
-
-    xercesc::XercesDOMParser parser;
-    xercesc::DefaultHandler handler;
-    std::string message; ///< empty: there is a document
-};
-
 TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
     const XercesSession session;
     const char* const texts[] = {
@@ -144,16 +124,10 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
     for (const char* text : texts) {
         PlainParse plain(text);
         try {
-            const SampleDocument sample(text);
-            const xercesc::DOMDocument& expected = *plain.parser.getDocument();
-            EXPECT_EQ(plain.message, "") << text;
-            EXPECT_TRUE(sample.Get()->isEqualNode(&expected)) << text;
-            EXPECT_TRUE(xercesc::XMLString::equals(sample.Get()->getXmlVersion(), expected.getXmlVersion()));
-            EXPECT_TRUE(
-                xercesc::XMLString::equals(sample.Get()->getXmlEncoding(), expected.getXmlEncoding()));
-            EXPECT_EQ(sample.Get()->getXmlStandalone(), expected.getXmlStandalone()) << text;
+            EXPECT_TRUE(plain.IsSame(*SampleDocument(text).Get())) << text;
+            EXPECT_EQ(plain.Message(), "") << text;
         } catch (const tessera::DataSourceUnavailableException& failure) {
-            EXPECT_EQ(failure.message(), plain.message) << text;
+            EXPECT_EQ(failure.message(), plain.Message()) << text;
         }
     }
 }
