@@ -101,7 +101,9 @@ DOMDocument* ParsePlainDocument(Parse&& parse) {
 
 DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
     const auto parse = [bytes, size](DocumentParser& parser) {
-        parser.parse(xercesc::MemBufInputSource(static_cast<const XMLByte*>(bytes), size, "String"));
+        xercesc::MemBufInputSource source(static_cast<const XMLByte*>(bytes), size, "String");
+        source.setCopyBufToStream(false); // the bytes outlast the parse
+        parser.parse(source);
     };
     const bool isPlain = HasPlainProlog({static_cast<const char*>(bytes), size});
     DOMDocument* document = isPlain ? ParsePlainDocument(parse) : nullptr;
