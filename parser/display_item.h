@@ -76,8 +76,8 @@ public:
     unsigned int uGetContentLength() const;
     /// The UTF-16 content, owned by the item; the caller may read and append.
     std::vector<char16_t>* pGetContentPointer() { return &vecContent; }
-    /// The styled runs in document order. Sentences that the caller appends become the item's own; none may be
-    /// taken away or deleted.
+    /// The styled runs in document order. Sentences that the caller appends become the item's own; none may
+    /// be taken away or deleted.
     std::vector<Sentence*>* pGetSentenceSeq() { return &vecSentence; }
     /// The styled runs in document order, to read.
     const std::vector<Sentence*>* pGetSentenceSeq() const { return &vecSentence; }

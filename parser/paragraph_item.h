@@ -20,7 +20,7 @@ public:
     static void* operator new(std::size_t uSize, std::pmr::memory_resource& memory) {
         return memory.allocate(uSize, alignof(ParagraphItem));
     }
-    static void operator delete(void*) {}
+    static void operator delete(void*) {} // NOLINT(misc-new-delete-overloads): there is no other operator new
     static void operator delete(void*, std::pmr::memory_resource&) {}
 
     /// An item without sentences.
