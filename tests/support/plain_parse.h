@@ -5,6 +5,7 @@
 #include "xmltree/transcode.h"
 
 #include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/SAXException.hpp>
@@ -27,6 +28,8 @@ public:
             message = "Xerces SAX error while loading: " + XercesUnstringTemp(error.getMessage());
         } catch (const xercesc::XMLException& error) {
             message = "Xerces XML error while loading: " + XercesUnstringTemp(error.getMessage());
+        } catch (const xercesc::DOMException&) {
+            message = "Xerces DOM error while loading";
         }
     }
 
