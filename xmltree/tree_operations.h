@@ -74,9 +74,11 @@ public:
     static xercesc::DOMDocument* LoadDocument(const std::string& path);
     /// Reads a document from the bytes of a string.
     static xercesc::DOMDocument* LoadXml(const std::string& text);
-    /// Reads a document from bytes.
+    /// @{
+    /// Reads a document from bytes, during the call only.
     static xercesc::DOMDocument* LoadFromBinary(const std::vector<unsigned char>& bytes);
     static xercesc::DOMDocument* LoadFromBinary(const unsigned char* bytes, std::size_t size);
+    /// @}
 
     // Queries. They allocate nothing, except for the text that they return.
 
@@ -94,10 +96,10 @@ public:
     /// none. Finds what DOMNamedNodeMap::getNamedItemNS finds.
     static xercesc::DOMNode* FindAttribute(const xercesc::DOMNode* node, const char* namespaceURI,
                                            const char* localName);
-    /// An attribute to look for and the attribute of an element that is it; null while there is none.
+    /// An attribute to look for.
     struct SoughtAttribute {
-        const tessera::MemberInfo* member;
-        const xercesc::DOMNode* found = nullptr;
+        const tessera::MemberInfo* member;       ///< its names; never null
+        const xercesc::DOMNode* found = nullptr; ///< the attribute of the element; null: not found
     };
     /// Looks for `count` attributes in one pass over those of an element; fills in those that it carries.
     static void FindAttributes(const xercesc::DOMNode* node, SoughtAttribute* sought, std::size_t count);
