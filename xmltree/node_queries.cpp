@@ -3,6 +3,7 @@
 #include "xmltree/transcode.h"
 
 #include <xercesc/dom/DOMNamedNodeMap.hpp>
+#include <xercesc/dom/DOMText.hpp>
 
 using xercesc::DOMNamedNodeMap;
 using xercesc::DOMNode;
@@ -16,12 +17,16 @@ bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* loc
            XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI);
 }
 
-/// The value of an attribute. With a single text child it is taken from the child: asked for it, an
-/// attribute of the XML library goes by way of dynamic casts.
-const XMLCh* AttributeValue(const DOMNode* attribute) {
+/// The text of an attribute. With a single text child it is taken from the child: asked for it, an attribute
+/// of the XML library goes by way of dynamic casts.
+std::string TextOfAttribute(const DOMNode* attribute) {
     const DOMNode* child = attribute->getFirstChild();
     const bool isPlain = child && child->getNodeType() == DOMNode::TEXT_NODE && !child->getNextSibling();
-    return (isPlain ? child : attribute)->getNodeValue();
+    if (!isPlain) {
+        return XercesUnstringTemp(attribute->getNodeValue());
+    }
+    const XMLCh* units = child->getNodeValue();
+    return {units, units + static_cast<const xercesc::DOMText*>(child)->getLength()};
 }
 
 enum class TextKind { NONE, ATTRIBUTE, OWN_VALUE, INSIDE };
@@ -131,7 +136,7 @@ std::string XercesTreeOperations::GetTextValue(const DOMNode* node) {
     case TextKind::INSIDE:
         return TextInside(node);
     case TextKind::ATTRIBUTE:
-        return XercesUnstringTemp(AttributeValue(node));
+        return TextOfAttribute(node);
     case TextKind::OWN_VALUE:
         return XercesUnstringTemp(node->getNodeValue());
     default:
