@@ -47,11 +47,6 @@ public:
     /// Whether the item is on screen at `iTime` ms; both ends belong to the span.
     bool fgCheckTimeInfo(std::int32_t iTime) const { return iTime >= iBeginTime && iTime <= iEndTime; }
 
-protected:
-    /// The given styling, both times -1.
-    explicit DisplayItem(const StylingAttrib& attrib);
-
-public:
     StylingAttrib styling; ///< the item's resolved styling
     const StylingAttrib*
         pRegionAttrib;                 ///< the region that a paragraph names, borrowed; null: none or unknown
@@ -59,6 +54,10 @@ public:
     bool fgForcedDisplay;              ///< shown even when subtitles are off (CFF-TT forcedDisplayMode)
     std::int32_t iBeginTime;           ///< first millisecond on screen
     std::int32_t iEndTime;             ///< last millisecond on screen
+
+protected:
+    /// The given styling, both times -1.
+    explicit DisplayItem(const StylingAttrib& attrib);
 };
 
 /// A paragraph of text.
@@ -82,15 +81,14 @@ public:
     /// The styled runs in document order, to read.
     const std::vector<Sentence*>* pGetSentenceSeq() const { return &vecSentence; }
 
-protected:
-    /// An item with the given styling.
-    explicit TextItem(const StylingAttrib& attrib);
-
-public:
     bool fgCombined;                    ///< other items' content has been merged into vecContent
     std::string strContent;             ///< plain content; empty unless set with vSetContent()
     std::vector<char16_t> vecContent;   ///< UTF-16 content that merging reads and extends
     std::vector<Sentence*> vecSentence; ///< the styled runs, owned
+
+protected:
+    /// An item with the given styling.
+    explicit TextItem(const StylingAttrib& attrib);
 };
 
 /// A picture: one PNG file inside the block of image data that the player handed over.
