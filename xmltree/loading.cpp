@@ -1,7 +1,7 @@
 #include "xmltree/tree_operations.h"
 
 #include "runtime/exceptions.h"
-#include "xmltree/prolog.h"
+#include "xmltree/document_parser.h"
 #include "xmltree/transcode.h"
 #ifdef XTTML_UNTRUSTED_XML
 #include "xmltree/untrusted_parser.h"
@@ -9,12 +9,10 @@
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
-#include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/SAXException.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
-#include <xercesc/util/XMLUni.hpp>
 
 #include <cstdio>
 
@@ -25,9 +23,9 @@ using xercesc::XMLPlatformUtils;
 namespace {
 
 #ifdef XTTML_UNTRUSTED_XML
-using DocumentParser = UntrustedParser;
+using Parser = UntrustedParser;
 #else
-using DocumentParser = xercesc::XercesDOMParser;
+using Parser = DocumentParser;
 #endif
 
 /// A load from memory says nothing on its way.
@@ -50,7 +48,7 @@ DOMDocument* ParseDocument(const Report& report, Parse&& parse) {
         throw DataSourceUnavailableException(
             report.Failure("Xerces XML error while loading: The XML library is not initialised."));
     }
-    DocumentParser parser(nullptr, XMLPlatformUtils::fgMemoryManager);
+    Parser parser(nullptr, XMLPlatformUtils::fgMemoryManager);
     report.Line("parser Created OK");
     xercesc::DefaultHandler handler;
     report.Line("defaultHandler Created OK");
@@ -83,31 +81,12 @@ DOMDocument* Load(const Report& report, Parse&& parse) {
     }
 }
 
-/// Parses without the means for document types, which is faster. Null when the document is not well-formed:
-/// the usual way then says why, in its own words.
-template <class Parse>
-DOMDocument* ParsePlainDocument(Parse&& parse) {
-    try {
-        return ParseDocument(SilentLoad{}, [&parse](DocumentParser& parser) {
-            parser.useScanner(xercesc::XMLUni::fgWFXMLScanner);
-            parse(parser);
-        });
-    } catch (const xercesc::XMLException&) {
-    } catch (const xercesc::SAXException&) {
-    } catch (const xercesc::DOMException&) {
-    }
-    return nullptr;
-}
-
 DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
-    const auto parse = [bytes, size](DocumentParser& parser) {
+    return Load(SilentLoad{}, [bytes, size](Parser& parser) {
         xercesc::MemBufInputSource source(static_cast<const XMLByte*>(bytes), size, "String");
         source.setCopyBufToStream(false); // the bytes outlast the parse
         parser.parse(source);
-    };
-    const bool isPlain = HasPlainProlog({static_cast<const char*>(bytes), size});
-    DOMDocument* document = isPlain ? ParsePlainDocument(parse) : nullptr;
-    return document ? document : Load(SilentLoad{}, parse);
+    });
 }
 
 } // namespace
@@ -115,8 +94,7 @@ DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
 DOMDocument* XercesTreeOperations::LoadDocument(const std::string& path) {
     std::puts("XercesTreeOperations::LoadDocument called!");
     std::puts("declare parser OK");
-    return Load(ReportedLoad{path},
-                [&path](DocumentParser& parser) { parser.parse(XercesStringTemp(path)); });
+    return Load(ReportedLoad{path}, [&path](Parser& parser) { parser.parse(XercesStringTemp(path)); });
 }
 
 DOMDocument* XercesTreeOperations::LoadXml(const std::string& text) {

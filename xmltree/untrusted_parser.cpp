@@ -79,7 +79,7 @@ private:
 } // namespace
 
 void UntrustedParser::parse(const InputSource& source) {
-    XercesDOMParser::parse(BoundedSource(source));
+    DocumentParser::parse(BoundedSource(source));
 }
 
 void UntrustedParser::parse(const XMLCh* path) {
@@ -104,14 +104,14 @@ void UntrustedParser::startElement(const XMLElementDecl& element, unsigned int n
         CountName(attribute.getQName());
         CountName(getScanner()->getURIText(attribute.getURIId()));
     }
-    XercesDOMParser::startElement(element, namespaceId, prefix, attributes, attributeCount, isEmpty, isRoot);
+    DocumentParser::startElement(element, namespaceId, prefix, attributes, attributeCount, isEmpty, isRoot);
 }
 
 // The XML library calls it for empty elements as well.
 void UntrustedParser::endElement(const XMLElementDecl& element, unsigned int namespaceId, bool isRoot,
                                  const XMLCh* prefix) {
     --depth_;
-    XercesDOMParser::endElement(element, namespaceId, isRoot, prefix);
+    DocumentParser::endElement(element, namespaceId, isRoot, prefix);
 }
 
 void UntrustedParser::CountName(const XMLCh* name) {

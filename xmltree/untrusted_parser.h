@@ -1,10 +1,10 @@
 // The DOM parser for documents from the network, whoever wrote them: it refuses what costs a player its
-// files, its network, its time or its memory. In a library built with XTTML_UNTRUSTED_XML it takes the place
-// of the XML library's own.
+// files, its network, its time or its memory. In a library built with XTTML_UNTRUSTED_XML every load uses it.
 #ifndef XTTML_XMLTREE_UNTRUSTED_PARSER_H
 #define XTTML_XMLTREE_UNTRUSTED_PARSER_H
 
-#include <xercesc/parsers/XercesDOMParser.hpp>
+#include "xmltree/document_parser.h"
+
 #include <xercesc/sax/InputSource.hpp>
 
 #include <cstddef>
@@ -18,9 +18,9 @@
 /// - elements nested more than XTTML_UNTRUSTED_MAX_DEPTH deep;
 /// - elements with more attributes, values of more characters and documents with more names than any TTML
 ///   document needs: the XML library's cost grows with the square of the first and the last.
-class UntrustedParser : public xercesc::XercesDOMParser {
+class UntrustedParser : public DocumentParser {
 public:
-    using XercesDOMParser::XercesDOMParser;
+    using DocumentParser::DocumentParser;
 
     void parse(const xercesc::InputSource& source);
     /// @param path a path of the local file system, never a URL

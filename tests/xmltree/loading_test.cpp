@@ -101,6 +101,7 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
         "<?xml version='1.0' encoding='no-such'?><tt/>",
         "<!DOCTYPE tt [<!ENTITY e 'text'>]><tt>&e;</tt>",
         "<!DOCTYPE tt [<!ENTITY e '<p>'>]><tt>&e;</tt>",
+        "<!DOCTYPE tt [<!ATTLIST tt a CDATA 'b' i ID #IMPLIED>]><tt i=' c ' x='&#x20;'/>",
     };
     const std::string output = CapturedOutput([&texts] {
         for (const std::string& text : texts) {
@@ -115,6 +116,34 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
         }
     });
     EXPECT_EQ(output, "");
+}
+
+TEST(Loading, AttributesCanBeEditedLikeAnyNode) {
+    const SampleDocument document("<tt a='1' empty=''/>");
+    xercesc::DOMElement* root = document.Root();
+    xercesc::DOMAttr* attribute = root->getAttributeNode(XercesStringTemp("a"));
+    const auto value = [&attribute] { return XercesUnstringTemp(attribute->getValue()); };
+    xercesc::DOMNode* first = attribute->getFirstChild();
+    EXPECT_EQ(first->getParentNode(), attribute);
+    EXPECT_EQ(attribute->getLastChild(), first);
+    EXPECT_FALSE(first->getPreviousSibling() || first->getNextSibling());
+
+    xercesc::DOMNode* second = document.Get()->createTextNode(XercesStringTemp("2"));
+    attribute->appendChild(second);
+    EXPECT_EQ(value(), "12");
+    EXPECT_EQ(second->getPreviousSibling(), first);
+    attribute->removeChild(first)->release();
+    EXPECT_EQ(value(), "2");
+    EXPECT_FALSE(second->getPreviousSibling());
+    attribute->setValue(XercesStringTemp("3"));
+    EXPECT_EQ(value(), "3");
+
+    root->removeAttributeNode(attribute)->release();
+    root->setAttributeNS(nullptr, XercesStringTemp("b"), XercesStringTemp("4"));
+    attribute = root->getAttributeNode(XercesStringTemp("b"));
+    EXPECT_EQ(value(), "4");
+    attribute = root->getAttributeNode(XercesStringTemp("empty"));
+    EXPECT_EQ(value(), "");
 }
 
 TEST(Loading, WithoutTheXmlLibraryFailsInsteadOfCrashing) {
