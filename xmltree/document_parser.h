@@ -4,12 +4,14 @@
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
-/// Makes attributes that link their text themselves. The XML library finds out by dynamic_cast, several times
-/// for every node it appends, what kind of node it is, which takes more than a third of a parse; most nodes
-/// of a subtitle document are attributes and their texts.
+/// Links texts and the values of attributes itself. The XML library asks by dynamic_cast, several times for
+/// every node that it appends, what kind of node it is, which takes more than a third of a parse; most nodes
+/// of a subtitle document are these.
 class DocumentParser : public xercesc::XercesDOMParser {
 public:
     using XercesDOMParser::XercesDOMParser;
+
+    void docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) override;
 
 protected:
     xercesc::DOMAttr* createAttrNS(const XMLCh* namespaceURI, const XMLCh* prefix, const XMLCh* localName,

@@ -6,6 +6,7 @@
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMException.hpp>
+#include <xercesc/dom/DOMNamedNodeMap.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/SAXException.hpp>
@@ -14,6 +15,7 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include <string>
+#include <vector>
 
 /// A document and the parser that owns it. The XML library must be initialised.
 class PlainParse {
@@ -36,16 +38,38 @@ public:
     /// What a load says of the bytes; empty when they are a document.
     const std::string& Message() const { return message; }
 
-    /// Whether another document says the same, in its XML declaration as well.
+    /// Whether another document says the same, in its XML declaration as well, and is a tree.
     bool IsSame(const xercesc::DOMDocument& other) {
         const xercesc::DOMDocument& own = *parser.getDocument();
-        return own.isEqualNode(&other) &&
+        return IsLinked(other) && own.isEqualNode(&other) &&
                xercesc::XMLString::equals(own.getXmlVersion(), other.getXmlVersion()) &&
                xercesc::XMLString::equals(own.getXmlEncoding(), other.getXmlEncoding()) &&
                own.getXmlStandalone() == other.getXmlStandalone();
     }
 
 private:
+    /// Whether all children and attributes inside a node know their parent and each other.
+    static bool IsLinked(const xercesc::DOMNode& top) {
+        std::vector<const xercesc::DOMNode*> open = {&top};
+        while (!open.empty()) {
+            const xercesc::DOMNode& parent = *open.back();
+            open.pop_back();
+            const xercesc::DOMNode* last = nullptr;
+            for (const auto* child = parent.getFirstChild(); child; child = child->getNextSibling()) {
+                if (child->getParentNode() != &parent || child->getPreviousSibling() != last)
+                    return false;
+                last = child;
+                open.push_back(child);
+            }
+            if (parent.getLastChild() != last)
+                return false;
+            const xercesc::DOMNamedNodeMap* attributes = parent.getAttributes();
+            for (XMLSize_t i = 0; attributes && i < attributes->getLength(); ++i)
+                open.push_back(attributes->item(i));
+        }
+        return true;
+    }
+
     xercesc::XercesDOMParser parser;
     xercesc::DefaultHandler handler;
     std::string message;

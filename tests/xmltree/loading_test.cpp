@@ -83,6 +83,10 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
         "\xEF\xBB\xBF<tt xml:id='i' xml:space='preserve' a=' b\tc\r\nd&#10;&lt;\xC3\xA4'/>",
         "<tt xmlns='urn:a' xmlns:b='urn:b'><p xmlns=''><b:c b:d='1' "
         "d='2'/></p>&amp;<![CDATA[&<]]>&#x1F600;</tt>",
+        "<tt>a<p/>b<!-- c -->d<![CDATA[e]]>f<p>g</p>&#104;<?i j?>k</tt>",
+        "<tt><!-- a -->b<p/>c</tt>",
+        "<tt><![CDATA[a]]><p/><![CDATA[b]]>c</tt>",
+        "<tt>" + std::string((1 << 20) + 1, 'a') + "<p/></tt>",
         "<tt a='1' xmlns:b='u' xmlns:c='u' b:d='1' c:d='2'/>",
         "<tt a='<p>' a=''/>",
         "<tt a='1'b='2'/>",
@@ -101,17 +105,19 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
         "<?xml version='1.0' encoding='no-such'?><tt/>",
         "<!DOCTYPE tt [<!ENTITY e 'text'>]><tt>&e;</tt>",
         "<!DOCTYPE tt [<!ENTITY e '<p>'>]><tt>&e;</tt>",
+        "<!DOCTYPE tt [<!ENTITY e 'a<p>b</p>c'>]><tt>&e;d<p/>&e;<p/>e&e;</tt>",
         "<!DOCTYPE tt [<!ATTLIST tt a CDATA 'b' i ID #IMPLIED>]><tt i=' c ' x='&#x20;'/>",
     };
     const std::string output = CapturedOutput([&texts] {
         for (const std::string& text : texts) {
+            SCOPED_TRACE(text.substr(0, 99));
             PlainParse plain(text);
             const std::string outcome = Outcome([&text] { return Tree::LoadXml(text); });
-            EXPECT_EQ(outcome, Outcome([&text] { return Tree::LoadFromBinary(Bytes(text)); })) << text;
+            EXPECT_EQ(outcome, Outcome([&text] { return Tree::LoadFromBinary(Bytes(text)); }));
             if (plain.Message().empty()) {
-                EXPECT_TRUE(plain.IsSame(*SampleDocument(text).Get())) << text;
+                EXPECT_TRUE(plain.IsSame(*SampleDocument(text).Get()));
             } else {
-                EXPECT_EQ(outcome, plain.Message()) << text;
+                EXPECT_EQ(outcome, plain.Message());
             }
         }
     });
@@ -119,31 +125,20 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
 }
 
 TEST(Loading, AttributesCanBeEditedLikeAnyNode) {
-    const SampleDocument document("<tt a='1' empty=''/>");
+    const SampleDocument document("<tt a='1'/>");
     xercesc::DOMElement* root = document.Root();
     xercesc::DOMAttr* attribute = root->getAttributeNode(XercesStringTemp("a"));
     const auto value = [&attribute] { return XercesUnstringTemp(attribute->getValue()); };
-    xercesc::DOMNode* first = attribute->getFirstChild();
-    EXPECT_EQ(first->getParentNode(), attribute);
-    EXPECT_EQ(attribute->getLastChild(), first);
-    EXPECT_FALSE(first->getPreviousSibling() || first->getNextSibling());
-
-    xercesc::DOMNode* second = document.Get()->createTextNode(XercesStringTemp("2"));
-    attribute->appendChild(second);
+    attribute->appendChild(document.Get()->createTextNode(XercesStringTemp("2")));
     EXPECT_EQ(value(), "12");
-    EXPECT_EQ(second->getPreviousSibling(), first);
-    attribute->removeChild(first)->release();
+    attribute->removeChild(attribute->getFirstChild())->release();
     EXPECT_EQ(value(), "2");
-    EXPECT_FALSE(second->getPreviousSibling());
     attribute->setValue(XercesStringTemp("3"));
     EXPECT_EQ(value(), "3");
-
     root->removeAttributeNode(attribute)->release();
     root->setAttributeNS(nullptr, XercesStringTemp("b"), XercesStringTemp("4"));
     attribute = root->getAttributeNode(XercesStringTemp("b"));
     EXPECT_EQ(value(), "4");
-    attribute = root->getAttributeNode(XercesStringTemp("empty"));
-    EXPECT_EQ(value(), "");
 }
 
 TEST(Loading, WithoutTheXmlLibraryFailsInsteadOfCrashing) {
