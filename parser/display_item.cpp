@@ -8,11 +8,8 @@ Sentence::~Sentence() {
     delete pStylingAttrib;
 }
 
-DisplayItem::DisplayItem() : DisplayItem(StylingAttrib()) {}
-
-DisplayItem::DisplayItem(const StylingAttrib& attrib)
-    : styling(attrib), pRegionAttrib(nullptr), pStyleAttrib(nullptr), fgForcedDisplay(false), iBeginTime(-1),
-      iEndTime(-1) {}
+DisplayItem::DisplayItem()
+    : pRegionAttrib(nullptr), pStyleAttrib(nullptr), fgForcedDisplay(false), iBeginTime(-1), iEndTime(-1) {}
 
 DisplayItem::~DisplayItem() = default;
 
@@ -22,8 +19,6 @@ void DisplayItem::vSetTime(std::int32_t iBegin, std::int32_t iEnd) {
 }
 
 TextItem::TextItem() : fgCombined(false) {}
-
-TextItem::TextItem(const StylingAttrib& attrib) : DisplayItem(attrib), fgCombined(false) {}
 
 TextItem::~TextItem() {
     for (Sentence* pSentence : vecSentence)

@@ -54,10 +54,6 @@ public:
     bool fgForcedDisplay;              ///< shown even when subtitles are off (CFF-TT forcedDisplayMode)
     std::int32_t iBeginTime;           ///< first millisecond on screen
     std::int32_t iEndTime;             ///< last millisecond on screen
-
-protected:
-    /// The given styling, both times -1.
-    explicit DisplayItem(const StylingAttrib& attrib);
 };
 
 /// A paragraph of text.
@@ -75,8 +71,7 @@ public:
     unsigned int uGetContentLength() const;
     /// The UTF-16 content, owned by the item; the caller may read and append.
     std::vector<char16_t>* pGetContentPointer() { return &vecContent; }
-    /// The styled runs in document order. Sentences that the caller appends become the item's own; none may
-    /// be taken away or deleted.
+    /// The styled runs in document order. Sentences that the caller appends become the item's own.
     std::vector<Sentence*>* pGetSentenceSeq() { return &vecSentence; }
     /// The styled runs in document order, to read.
     const std::vector<Sentence*>* pGetSentenceSeq() const { return &vecSentence; }
@@ -85,10 +80,6 @@ public:
     std::string strContent;             ///< plain content; empty unless set with vSetContent()
     std::vector<char16_t> vecContent;   ///< UTF-16 content that merging reads and extends
     std::vector<Sentence*> vecSentence; ///< the styled runs, owned
-
-protected:
-    /// An item with the given styling.
-    explicit TextItem(const StylingAttrib& attrib);
 };
 
 /// A picture: one PNG file inside the block of image data that the player handed over.

@@ -81,7 +81,6 @@ void TtmlParser::vClearDisplaySequence() {
         pItem = nullptr;
     }
     vecDisplaySequence_.clear();
-    itemMemory_.release();
     timeIndex_.vClear();
     vecEarlierBuffers_.clear();
 }

@@ -1,5 +1,4 @@
 #include "parser/content_walk.h"
-#include "parser/paragraph_item.h"
 #include "parser/ttml_parser.h"
 #include "style/attribute_reading.h"
 
@@ -8,13 +7,13 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include <iostream>
-#include <utility>
 
 using namespace ttaf1_dfxp::tt;
 
 namespace {
 
 constexpr char16_t lineBreak = u'\n';
+constexpr std::size_t uUsualSentences = 3; // two lines of text and the break between them
 
 void vAppendText(const xercesc::DOMNode& text, std::vector<char16_t>& vecTarget) {
     const XMLCh* const pUnits = text.getNodeValue();
@@ -33,7 +32,14 @@ void vAppendText(const xercesc::DOMNode& text, std::string& strTarget) {
     strTarget += transcoded.get();
 }
 
-void vMakeLineBreak(Sentence& sentence) {
+Sentence& rAppendSentence(std::vector<Sentence*>& vecSentences) {
+    auto sentence = std::make_unique<Sentence>();
+    vecSentences.push_back(sentence.get());
+    return *sentence.release();
+}
+
+void vAppendLineBreak(std::vector<Sentence*>& vecSentences) {
+    Sentence& sentence = rAppendSentence(vecSentences);
     sentence.vecText.push_back(lineBreak);
     sentence.fgLineBreak = true;
 }
@@ -42,31 +48,24 @@ void vMakeLineBreak(Sentence& sentence) {
 class SentenceCollector {
 public:
     SentenceCollector(std::vector<Sentence*>& vecSentences, const StylingAttrib& enclosing)
-        : vecSentences_(vecSentences), styling_(enclosing) {}
+        : vecSentences_(vecSentences), enclosing_(enclosing) {}
 
     void vEnterSpan(xercesc::DOMNode& span) {
-        if (uOpenSpans_++ > 0)
-            vecOuterStyling_.push_back(styling_);
-        vReadStyling(Cspan_eltype(&span), spanRules, styling_);
+        vecStyling_.push_back(vecStyling_.empty() ? enclosing_ : vecStyling_.back());
+        vReadStyling(Cspan_eltype(&span), spanRules, vecStyling_.back());
     }
-    void vLeaveSpan() {
-        if (--uOpenSpans_ == 0)
-            return;
-        styling_ = std::move(vecOuterStyling_.back());
-        vecOuterStyling_.pop_back();
-    }
+    void vLeaveSpan() { vecStyling_.pop_back(); }
     void vText(const xercesc::DOMNode& text) {
-        Sentence& sentence = rAppendNewSentence(vecSentences_);
+        Sentence& sentence = rAppendSentence(vecSentences_);
         vAppendText(text, sentence.vecText);
-        sentence.pStylingAttrib = std::make_unique<StylingAttrib>(styling_).release();
+        sentence.pStylingAttrib = std::make_unique<StylingAttrib>(vecStyling_.back()).release();
     }
-    void vLineBreak() { vMakeLineBreak(rAppendNewSentence(vecSentences_)); }
+    void vLineBreak() { vAppendLineBreak(vecSentences_); }
 
 private:
     std::vector<Sentence*>& vecSentences_;
-    std::size_t uOpenSpans_ = 0;
-    StylingAttrib styling_;                      // of the innermost open span
-    std::vector<StylingAttrib> vecOuterStyling_; // of the spans around it, outermost first
+    const StylingAttrib& enclosing_;
+    std::vector<StylingAttrib> vecStyling_; // of the open spans, innermost last
 };
 
 /// Gathers the text of a span, whatever the spans inside it.
@@ -110,14 +109,15 @@ std::int32_t iReadTime(const std::optional<std::string>& strTime, const TimeRate
     return strTime ? TtmlParser::iGetTimeFromString(*strTime, rates.iFrameRate, rates.fTickRate) : -1;
 }
 
-void vReadContent(xercesc::DOMNode& paragraph, ParagraphItem& item) {
+void vReadContent(xercesc::DOMNode& paragraph, TextItem& item) {
+    item.vecSentence.reserve(uUsualSentences);
     for (xercesc::DOMNode* pNode = paragraph.getFirstChild(); pNode; pNode = pNode->getNextSibling()) {
         switch (eGetContentKind(*pNode)) {
         case ContentKind::TEXT:
-            vAppendText(*pNode, item.rAppendSentence().vecText);
+            vAppendText(*pNode, rAppendSentence(item.vecSentence).vecText);
             break;
         case ContentKind::LINE_BREAK:
-            vMakeLineBreak(item.rAppendSentence());
+            vAppendLineBreak(item.vecSentence);
             item.vecContent.push_back(lineBreak);
             break;
         case ContentKind::SPAN:
@@ -172,19 +172,12 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
 }
 
 std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,
-                                                    std::optional<TimeRates>& rates, int iOffset) {
+                                                    std::optional<TimeRates>& rates, int iOffset) const {
     const auto [fgForced, strRegion, strStyle, strBegin, strEnd] = values(
         paragraph.forcedDisplayMode, paragraph.region, paragraph.style, paragraph.begin, paragraph.end);
-    const StylingAttrib* const pRegion = strRegion ? prGetRegionByID(*strRegion) : nullptr;
-    const StylingAttrib* const pStyle = strStyle ? prGetStyleByID(*strStyle) : nullptr;
-    const StylingAttrib& region = strRegion ? rOrDefault(pRegion) : rootStyling_;
-    std::unique_ptr<ParagraphItem> item(new (itemMemory_)
-                                            ParagraphItem(strStyle ? rOrDefault(pStyle) : region));
+    auto item = std::make_unique<TextItem>();
     item->fgForcedDisplay = fgForced.value_or(false);
-    item->pRegionAttrib = pRegion;
-    item->pStyleAttrib = pStyle;
-    if (strStyle)
-        vLayOverRegion(region, item->styling);
+    vSetRegionAndStyle(strRegion, strStyle, *item);
     if (paragraph.color.namespaceExists()) { // most paragraphs have no tts: attribute at all
         const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
         vReadGeometry(paragraph, PairOutcome::UNCHANGED, area, item->styling);
@@ -196,4 +189,14 @@ std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,
     item->vSetTime(iShifted(iReadTime(strBegin, *rates), iOffset),
                    iShifted(iReadTime(strEnd, *rates), iOffset));
     return item;
+}
+
+void TtmlParser::vSetRegionAndStyle(const std::optional<std::string>& strRegion,
+                                    const std::optional<std::string>& strStyle, TextItem& item) const {
+    item.pRegionAttrib = strRegion ? prGetRegionByID(*strRegion) : nullptr;
+    item.pStyleAttrib = strStyle ? prGetStyleByID(*strStyle) : nullptr;
+    const StylingAttrib& region = strRegion ? rOrDefault(item.pRegionAttrib) : rootStyling_;
+    item.styling = strStyle ? rOrDefault(item.pStyleAttrib) : region;
+    if (strStyle)
+        vLayOverRegion(region, item.styling);
 }

@@ -15,8 +15,7 @@ constexpr std::int32_t iUnknownTime = -1;
 
 TtmlParser::TtmlParser()
     : iDocumentStartTime_(iUnknownTime), iDocumentEndTime_(iUnknownTime), iExtentWidth_(0), iExtentHeight_(0),
-      iSubtitleType_(0), itemMemory_(std::pmr::new_delete_resource()), iDocumentBufferSize_(0),
-      uCurrentIndex_(0), documentRoot_(nullptr) {}
+      iSubtitleType_(0), iDocumentBufferSize_(0), uCurrentIndex_(0), documentRoot_(nullptr) {}
 
 TtmlParser::~TtmlParser() {
     std::cout << "destruct Parser\n";

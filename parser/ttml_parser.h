@@ -18,7 +18,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <memory_resource>
 #include <optional>
 #include <string>
 #include <vector>
@@ -188,7 +187,9 @@ private:
     void vWriteDocumentTime() const;
 
     std::unique_ptr<TextItem> rMakeTextItem(const ttaf1_dfxp::tt::Cp_eltype& paragraph,
-                                            std::optional<TimeRates>& rates, int iOffset);
+                                            std::optional<TimeRates>& rates, int iOffset) const;
+    void vSetRegionAndStyle(const std::optional<std::string>& strRegion,
+                            const std::optional<std::string>& strStyle, TextItem& item) const;
     void vAppendImages(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset);
     void vAppendImage(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset,
                       bool fgReadForced);
@@ -204,7 +205,6 @@ private:
     RegionTable regionTable_;
     StyleTable styleTable_;
     std::int32_t iSubtitleType_;
-    std::pmr::monotonic_buffer_resource itemMemory_; // of the text items
     std::vector<DisplayItem*> vecDisplaySequence_;
     std::int32_t iDocumentBufferSize_;
     std::uint32_t uCurrentIndex_;
