@@ -17,6 +17,21 @@ bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* loc
            XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI);
 }
 
+/// The first attribute of a node that is accepted; null when there is none. Nodes are asked for attributes
+/// many times, mostly in vain: names are compared in place.
+template <class Accepts>
+DOMNode* FirstAttribute(const DOMNode* node, Accepts&& accepts) {
+    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
+    const XMLSize_t count = attributes ? attributes->getLength() : 0;
+    for (XMLSize_t i = 0; i < count; ++i) {
+        DOMNode* attribute = attributes->item(i);
+        if (accepts(attribute)) {
+            return attribute;
+        }
+    }
+    return nullptr;
+}
+
 /// The text of an attribute. With a single text child it is taken from the child: asked for it, an attribute
 /// of the XML library goes by way of dynamic casts.
 std::string TextOfAttribute(const DOMNode* attribute) {
@@ -89,46 +104,34 @@ DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const tessera:
     return FindAttribute(node, member.namespaceURI, member.localName);
 }
 
-// Asked many times for every element, mostly in vain: the names are compared in place.
 DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const char* namespaceURI,
                                              const char* localName) {
-    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
-    const XMLSize_t count = attributes ? attributes->getLength() : 0;
-    for (XMLSize_t i = 0; i < count; ++i) {
-        DOMNode* attribute = attributes->item(i);
-        if (HasName(attribute, namespaceURI, localName)) {
-            return attribute;
-        }
-    }
-    return nullptr;
+    return FirstAttribute(
+        node, [=](const DOMNode* attribute) { return HasName(attribute, namespaceURI, localName); });
 }
 
 // Most names end at their first character.
 void XercesTreeOperations::FindAttributes(const DOMNode* node, SoughtAttribute* sought, std::size_t count) {
-    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
-    const XMLSize_t attributeCount = attributes ? attributes->getLength() : 0;
-    for (XMLSize_t i = 0; i < attributeCount; ++i) {
-        const DOMNode* attribute = attributes->item(i);
+    std::size_t missing = count;
+    FirstAttribute(node, [=, &missing](const DOMNode* attribute) {
         const XMLCh* name = attribute->getLocalName();
         for (SoughtAttribute* one = sought; one != sought + count; ++one) {
             const tessera::MemberInfo& member = *one->member;
-            const bool mayMatch = !name || *name == static_cast<unsigned char>(*member.localName);
+            const bool mayMatch =
+                !one->found && (!name || *name == static_cast<unsigned char>(*member.localName));
             if (mayMatch && HasName(attribute, member.namespaceURI, member.localName)) {
                 one->found = attribute;
+                --missing;
             }
         }
-    }
+        return missing == 0;
+    });
 }
 
 bool XercesTreeOperations::HasAttributeInNamespace(const DOMNode* node, const tessera::MemberInfo& member) {
-    const DOMNamedNodeMap* attributes = node ? node->getAttributes() : nullptr;
-    const XMLSize_t count = attributes ? attributes->getLength() : 0;
-    for (XMLSize_t i = 0; i < count; ++i) {
-        if (IsEqualString(attributes->item(i)->getNamespaceURI(), member.namespaceURI)) {
-            return true;
-        }
-    }
-    return false;
+    return FirstAttribute(node, [&member](const DOMNode* attribute) {
+        return IsEqualString(attribute->getNamespaceURI(), member.namespaceURI);
+    });
 }
 
 std::string XercesTreeOperations::GetTextValue(const DOMNode* node) {
