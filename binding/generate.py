@@ -1,4 +1,4 @@
-"""Writes the tables and wrapper classes of the binding, and the list of accessors that its tests visit."""
+"""Writes the tables and wrapper classes of the binding."""
 
 import argparse
 import pathlib
@@ -7,7 +7,6 @@ from schema import SCHEMA
 
 HEAD = "// Made from binding/schema.py by `python3 binding/generate.py`; do not edit.\n"
 SOURCES = pathlib.PurePath("binding/generated")
-TESTS = pathlib.PurePath("tests/binding/generated")
 
 # The document class itself is written by hand, over a generated base.
 DOCUMENT_TYPE = "ttaf1_dfxp"
@@ -269,31 +268,6 @@ def module_includes(module, complex_types):
             "", "#include <string>"]
 
 
-# The tests' list of accessors.
-
-
-def accessor_visits():
-    types = [type_ for type_ in SCHEMA.types if type_.is_complex]
-    visits = "".join(map(accessor_visit, types))
-    body = f"{visits}{class_visit(types)}"
-    return header(TESTS / "accessor_visits.h", "Hands every accessor of every wrapper class to a visitor.",
-                  ['#include "binding/ttaf1_dfxp.h"'], body)
-
-
-def accessor_visit(type_):
-    calls = "".join(f"    visit(wrapper.{name});\n" for name, _, _ in accessors(type_))
-    return ("template <class Visitor>\n"
-            f"void VisitAccessors([[maybe_unused]] const ttaf1_dfxp::{qualified_class(type_)}& wrapper,\n"
-            f"                    [[maybe_unused]] Visitor& visit) {{\n{calls}}}\n\n")
-
-
-def class_visit(types):
-    calls = "".join(f"    visit.template Visit<ttaf1_dfxp::{qualified_class(type_)}>({type_.index});\n"
-                    for type_ in types)
-    return ("/// Calls Visit<class>(type index) for every class that has accessors or text.\n"
-            f"template <class Visitor>\nvoid VisitClasses(Visitor& visit) {{\n{calls}}}\n")
-
-
 def generated_files():
     """The content of every generated file by its path below the repository."""
     rows = {"namespace_rows.inc": namespace_rows, "type_rows.inc": type_rows,
@@ -302,7 +276,6 @@ def generated_files():
     files[SOURCES / "class_names.h"] = class_names()
     assert {type_.module for type_ in SCHEMA.types} == set(MODULE_TITLES), "a type without a header"
     files.update({SOURCES / f"{module}.h": module_header(module) for module in MODULE_TITLES})
-    files[TESTS / "accessor_visits.h"] = accessor_visits()
     return files
 
 

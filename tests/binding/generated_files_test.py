@@ -5,12 +5,12 @@ import subprocess
 import sys
 import tempfile
 
-GENERATED = ("binding/generated", "tests/binding/generated")
+GENERATED = "binding/generated"
 
 
 def contents(root):
     return {path.relative_to(root): path.read_bytes()
-            for folder in GENERATED for path in (root / folder).rglob("*") if path.is_file()}
+            for path in (root / GENERATED).rglob("*") if path.is_file()}
 
 
 def main():

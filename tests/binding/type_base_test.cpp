@@ -1,6 +1,6 @@
 #include "binding/type_base.h"
 
-#include "tests/binding/generated/accessor_visits.h"
+#include "generated/accessor_visits.h"
 #include "tests/binding/owned_document.h"
 #include "xmltree/transcode.h"
 
