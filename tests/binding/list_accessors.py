@@ -27,7 +27,8 @@ def main():
     visits = "".join(map(accessor_visit, types))
     target = pathlib.Path(sys.argv[1])
     target.parent.mkdir(parents=True, exist_ok=True)
-    target.write_text(f'#pragma once\n#include "binding/ttaf1_dfxp.h"\n\n{visits}{class_visit(types)}', encoding="utf-8")
+    target.write_text(f'#pragma once\n#include "binding/ttaf1_dfxp.h"\n\n{visits}{class_visit(types)}',
+                      encoding="utf-8")
 
 
 if __name__ == "__main__":
