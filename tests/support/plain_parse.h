@@ -48,7 +48,7 @@ public:
     }
 
 private:
-    /// Whether all children and attributes inside a node know their parent and each other.
+    /// Whether all children inside a node, those of attributes as well, know their parent and each other.
     static bool IsLinked(const xercesc::DOMNode& top) {
         std::vector<const xercesc::DOMNode*> open = {&top};
         while (!open.empty()) {
