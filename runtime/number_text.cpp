@@ -28,16 +28,25 @@ double ScaleToInteger(double value, int exponent) {
     return power < 0 ? value / EXACT_POWERS[-power] : value * EXACT_POWERS[power];
 }
 
-// One multiplication by an exact power loses less than half a unit of the last digit to rounding, so 15
-// digits that read back as the value are found. Halves are rounded up.
+// Whether ScaleToInteger rounded its result up.
+bool IsScaledTooHigh(double value, int exponent, double scaled) {
+    const int power = SIGNIFICANT_DIGITS - 1 - exponent;
+    const double error = power < 0 ? std::fma(-scaled, EXACT_POWERS[-power], value)
+                                   : std::fma(value, EXACT_POWERS[power], -scaled);
+    return error < 0;
+}
+
+// Halves are rounded up. The scaled value is rounded itself and may so have become a half, but never have
+// passed one.
 Decimal RoundByScaling(double value) {
     constexpr double fifteenDigits = 1e14;
     constexpr double sixteenDigits = 1e15;
     int exponent = static_cast<int>(std::floor(std::log10(value))); // one too high just below a power of ten
     exponent -= ScaleToInteger(value, exponent) < fifteenDigits ? 1 : 0;
-    exponent += ScaleToInteger(value, exponent) >= sixteenDigits - 0.5 ? 1 : 0;
-    const double rounded = ScaleToInteger(value, exponent) + 0.5;
-    return {std::to_string(static_cast<std::uint64_t>(rounded)), exponent};
+    const double scaled = ScaleToInteger(value, exponent);
+    double digits = std::floor(scaled + 0.5);
+    digits -= digits - scaled == 0.5 && IsScaledTooHigh(value, exponent, scaled) ? 1 : 0;
+    return {std::to_string(static_cast<std::uint64_t>(digits)), exponent + (digits < sixteenDigits ? 0 : 1)};
 }
 
 void PrintScientific(double value, char* first, char* last) {
