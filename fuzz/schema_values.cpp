@@ -81,7 +81,12 @@ bool HasPrintableZone(const DateTime& value) {
     return !value.HasTimezone() || std::abs(int{value.Timezone()}) < 100 * 60;
 }
 
-/// The parts of a date that begin earlier than it; the year -29226 begins before the first tick.
+/// Behind a year or a month, such an offset reads as a month or a day.
+bool HasWesternZone(const DateTime& value) {
+    return value.HasTimezone() && value.Timezone() < 0;
+}
+
+/// The parts of a date that begin earlier than it; the year -29227 begins before the first tick.
 void RequireParts(const DateTime& value) {
     for (const auto format :
          {CoreTypes::FormatDate, CoreTypes::FormatTime, CoreTypes::FormatGYear, CoreTypes::FormatGYearMonth,
@@ -97,7 +102,7 @@ void RequireDateTime(const DateTime& value) {
     const std::string text = CoreTypes::CastToString(value);
     const DateTime read = CoreTypes::CastToDateTime(text);
     Require(read.Value() == value.Value() && read.Timezone() == value.Timezone(), "a dateTime reads back");
-    if (value.Year() > -29226)
+    if (value.Year() > -29227 && !HasWesternZone(value))
         RequireParts(value);
     for (const auto format :
          {CoreTypes::FormatDateSpaceTime, CoreTypes::FormatSeconds, CoreTypes::FormatDays})

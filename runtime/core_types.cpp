@@ -1,6 +1,8 @@
 #include "runtime/core_types.h"
 
 #include "runtime/binary.h"
+#include "runtime/date_time_text.h"
+#include "runtime/duration_text.h"
 #include "runtime/number.h"
 #include "runtime/whitespace.h"
 
@@ -35,6 +37,16 @@ Integer ParseNumber(const std::string& value) {
     return *integer;
 }
 
+template <class Number>
+unsigned long long ToUInt64(Number value) {
+    return CastNumber<unsigned long long>(value);
+}
+
+// The only cast that changes a value without a word.
+unsigned long long ToUInt64(int value) {
+    return static_cast<unsigned long long>(value);
+}
+
 Duration ParseDuration(const std::string& value) {
     Duration result;
     if (!TryParseDuration(value, result)) {
@@ -57,6 +69,38 @@ constexpr std::string (*DATE_TIME_PRINTERS[])(const DateTime&) = {
     PrintGMonthDay, PrintGDay, PrintDateSpaceTime, PrintSeconds, PrintDays};
 
 } // namespace
+
+// The casts of one type of number.
+#define XTTML_DEFINE_CASTS(Number)                                                                           \
+    std::string CoreTypes::CastToString(Number value) {                                                      \
+        return PrintNumber(value);                                                                           \
+    }                                                                                                        \
+    bool CoreTypes::CastToBool(Number value) {                                                               \
+        return value != 0;                                                                                   \
+    }                                                                                                        \
+    int CoreTypes::CastToInt(Number value) {                                                                 \
+        return CastNumber<int>(value);                                                                       \
+    }                                                                                                        \
+    unsigned CoreTypes::CastToUInt(Number value) {                                                           \
+        return CastNumber<unsigned>(value);                                                                  \
+    }                                                                                                        \
+    long long CoreTypes::CastToInt64(Number value) {                                                         \
+        return CastNumber<long long>(value);                                                                 \
+    }                                                                                                        \
+    unsigned long long CoreTypes::CastToUInt64(Number value) {                                               \
+        return ToUInt64(value);                                                                              \
+    }                                                                                                        \
+    double CoreTypes::CastToDouble(Number value) {                                                           \
+        return static_cast<double>(value);                                                                   \
+    }
+
+XTTML_DEFINE_CASTS(int)
+XTTML_DEFINE_CASTS(unsigned)
+XTTML_DEFINE_CASTS(long)
+XTTML_DEFINE_CASTS(unsigned long)
+XTTML_DEFINE_CASTS(long long)
+XTTML_DEFINE_CASTS(unsigned long long)
+XTTML_DEFINE_CASTS(double)
 
 std::string CoreTypes::CastToString(const std::string& value) {
     return value;
@@ -125,10 +169,6 @@ unsigned long long CoreTypes::CastToUInt64(const std::string& value) {
     return ParseNumber<unsigned long long>(value);
 }
 
-unsigned long long CoreTypes::CastToUInt64(int value) {
-    return static_cast<unsigned long long>(value);
-}
-
 double CoreTypes::CastToDouble(const std::string& value) {
     const std::optional<double> number = ParseDouble(value);
     if (!number) {
@@ -139,6 +179,10 @@ double CoreTypes::CastToDouble(const std::string& value) {
 
 bool CoreTypes::IsNumber(const std::string& value) {
     return tessera::IsNumber(value);
+}
+
+ParsedInteger CoreTypes::ParseInteger(const std::string& text) {
+    return tessera::ParseInteger(text);
 }
 
 DateTime CoreTypes::CastToDateTime(const std::string& value) {
@@ -155,6 +199,10 @@ DateTime CoreTypes::CastToDateTime(const DateTime& value, DateTimeFormat) {
 
 DateTime CoreTypes::CastToDateTime(const DateTime* value) {
     return Unbox(value);
+}
+
+bool CoreTypes::TryParseDateTime(const std::string& text, unsigned parts, DateTime& result) {
+    return tessera::TryParseDateTime(text, parts, result);
 }
 
 DateTime CoreTypes::ParseTime(const std::string& value, unsigned format) {

@@ -2,6 +2,7 @@
 
 #include "runtime/calendar.h"
 #include "runtime/checked_arithmetic.h"
+#include "runtime/date_time_text.h"
 #include "runtime/exceptions.h"
 
 #include <limits>
@@ -151,44 +152,44 @@ std::int64_t DateTime::NormalizedValue() const {
     return HasTimezone() ? ToUtc(value_, timezone_) : value_;
 }
 
-DateTime operator+(const DateTime& time, const DayTimeDuration& duration) {
-    return DateTime(CheckedAdd(time.value_, duration.Ticks(), DATE_TIME), time.timezone_);
+DateTime DateTime::operator+(const DayTimeDuration& duration) const {
+    return DateTime(CheckedAdd(value_, duration.Ticks(), DATE_TIME), timezone_);
 }
 
-DateTime operator-(const DateTime& time, const DayTimeDuration& duration) {
-    return DateTime(CheckedSubtract(time.value_, duration.Ticks(), DATE_TIME), time.timezone_);
+DateTime DateTime::operator-(const DayTimeDuration& duration) const {
+    return DateTime(CheckedSubtract(value_, duration.Ticks(), DATE_TIME), timezone_);
 }
 
-DateTime operator+(const DateTime& time, const YearMonthDuration& duration) {
-    return MoveMonths(time, duration.TotalMonths());
+DateTime DateTime::operator+(const YearMonthDuration& duration) const {
+    return MoveMonths(*this, duration.TotalMonths());
 }
 
-DateTime operator-(const DateTime& time, const YearMonthDuration& duration) {
-    return MoveMonths(time, -std::int64_t{duration.TotalMonths()});
+DateTime DateTime::operator-(const YearMonthDuration& duration) const {
+    return MoveMonths(*this, -std::int64_t{duration.TotalMonths()});
 }
 
-DateTime operator+(const DateTime& time, const Duration& duration) {
-    return time + duration.YearMonthPart() + duration.DayTimePart();
+DateTime DateTime::operator+(const Duration& duration) const {
+    return *this + duration.YearMonthPart() + duration.DayTimePart();
 }
 
-DateTime operator-(const DateTime& time, const Duration& duration) {
-    return time - duration.YearMonthPart() - duration.DayTimePart();
+DateTime DateTime::operator-(const Duration& duration) const {
+    return *this - duration.YearMonthPart() - duration.DayTimePart();
 }
 
-DayTimeDuration operator-(const DateTime& a, const DateTime& b) {
-    return DayTimeDuration(CheckedSubtract(a.NormalizedValue(), b.NormalizedValue(), "duration"));
+DayTimeDuration DateTime::operator-(const DateTime& other) const {
+    return DayTimeDuration(CheckedSubtract(NormalizedValue(), other.NormalizedValue(), "duration"));
 }
 
-bool operator==(const DateTime& a, const DateTime& b) {
-    return a.HasTimezone() == b.HasTimezone() && a.NormalizedValue() == b.NormalizedValue();
+bool DateTime::operator==(const DateTime& other) const {
+    return HasTimezone() == other.HasTimezone() && NormalizedValue() == other.NormalizedValue();
 }
 
-bool operator<(const DateTime& a, const DateTime& b) {
-    if (a.HasTimezone() == b.HasTimezone()) {
-        return a.NormalizedValue() < b.NormalizedValue();
+bool DateTime::operator<(const DateTime& other) const {
+    if (HasTimezone() == other.HasTimezone()) {
+        return NormalizedValue() < other.NormalizedValue();
     }
-    return b.HasTimezone() ? ToUtc(a.value_, -LARGEST_OFFSET) < b.NormalizedValue()
-                           : a.NormalizedValue() < ToUtc(b.value_, LARGEST_OFFSET);
+    return HasTimezone() ? NormalizedValue() < ToUtc(other.value_, LARGEST_OFFSET)
+                         : ToUtc(value_, -LARGEST_OFFSET) < other.NormalizedValue();
 }
 
 } // namespace tessera

@@ -1,17 +1,17 @@
-// Dates and times of day (XML Schema Part 2, 3.2.7 to 3.2.14) and their lexical forms.
+// Dates and times of day (XML Schema Part 2, 3.2.7 to 3.2.14). CoreTypes reads and prints them.
 //
 // The calendar is the proleptic Gregorian one with the years counted as ISO 8601 and XML Schema 1.1 do:
-// the year before 0001 is 0000, a leap year. It covers whatever 64 bits of ticks reach, the years -29226 to
-// 29228. Arithmetic that leaves it throws OutOfRangeException.
+// the year before 0001 is 0000, a leap year. It covers whatever 64 bits of ticks reach, from April of the
+// year -29227 to September of 29228. Arithmetic that leaves it throws OutOfRangeException; nothing else here
+// throws unless its comment says so.
 #ifndef XTTML_RUNTIME_DATE_TIME_H
 #define XTTML_RUNTIME_DATE_TIME_H
 
 #include "runtime/duration.h"
+#include "runtime/export.h"
 #include "runtime/ordering.h"
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace tessera {
 
@@ -19,7 +19,7 @@ namespace tessera {
 ///
 /// Ordering follows XML Schema Part 2, 3.2.7.4: where only one of two values has a timezone they are never
 /// equal, and one is less than the other only if it is so for every offset from -14:00 to +14:00.
-class DateTime : PartialOrder<DateTime> {
+class XTTML_API DateTime : PartialOrder<DateTime> {
 public:
     /// The timezone of a value that has none.
     static constexpr std::int16_t NO_TIMEZONE = -32768;
@@ -44,6 +44,7 @@ public:
     static std::int64_t InitFromTicks(std::int32_t year, std::uint8_t month, std::uint8_t day,
                                       std::uint8_t hour, std::uint8_t minute, std::int64_t secondTicks);
 
+    /// Whether the year has a February 29.
     static bool IsLeapYear(std::int32_t year);
 
     /// The calendar date that a tick count falls on.
@@ -52,16 +53,20 @@ public:
 
     /// Ticks since 0001-01-01T00:00:00 in the value's own local time.
     constexpr std::int64_t Value() const { return value_; }
+    /// Whether the offset from UTC is known.
     constexpr bool HasTimezone() const { return timezone_ != NO_TIMEZONE; }
     /// The offset from UTC in minutes, or NO_TIMEZONE.
     constexpr std::int16_t Timezone() const { return timezone_; }
 
     /// 0 and below for the years before 0001.
     std::int32_t Year() const;
+    /// 1 to 12.
     std::uint8_t Month() const;
+    /// 1 to the length of the month.
     std::uint8_t Day() const;
     /// 0 to 23; an hour of 24 has become 0 of the next day.
     std::uint8_t Hour() const;
+    /// 0 to 59.
     std::uint8_t Minute() const;
     /// Seconds of the minute with the fraction.
     double Second() const;
@@ -78,65 +83,47 @@ public:
     /// The ticks in UTC; those of local time without a timezone. Held at the ends of the 64-bit range.
     std::int64_t NormalizedValue() const;
 
-    friend DateTime operator+(const DateTime& time, const DayTimeDuration& duration);
-    friend DateTime operator-(const DateTime& time, const DayTimeDuration& duration);
+    /// @{
+    /// So many ticks later or earlier; the timezone stays.
+    DateTime operator+(const DayTimeDuration& duration) const;
+    DateTime operator-(const DayTimeDuration& duration) const;
+    /// @}
+    /// @{
     /// The same day of another month, or that month's last day when it is too short; the time of day and
     /// the timezone stay.
-    friend DateTime operator+(const DateTime& time, const YearMonthDuration& duration);
-    friend DateTime operator-(const DateTime& time, const YearMonthDuration& duration);
+    DateTime operator+(const YearMonthDuration& duration) const;
+    DateTime operator-(const YearMonthDuration& duration) const;
+    /// @}
+    /// @{
     /// The year-month part first, then the day-time part (XML Schema Part 2, appendix E).
-    friend DateTime operator+(const DateTime& time, const Duration& duration);
-    friend DateTime operator-(const DateTime& time, const Duration& duration);
+    DateTime operator+(const Duration& duration) const;
+    DateTime operator-(const Duration& duration) const;
+    /// @}
     /// The difference of the two normalised values.
-    friend DayTimeDuration operator-(const DateTime& a, const DateTime& b);
+    DayTimeDuration operator-(const DateTime& other) const;
 
-    friend bool operator==(const DateTime& a, const DateTime& b);
-    friend bool operator<(const DateTime& a, const DateTime& b);
+    /// The same instant; false when only one has a timezone.
+    bool operator==(const DateTime& other) const;
+    /// Earlier for certain.
+    bool operator<(const DateTime& other) const;
 
 private:
     std::int64_t value_ = 0;
     std::int16_t timezone_ = NO_TIMEZONE;
 };
 
-// Every form ends with the timezone when the value has one. Years have at least four digits and a "-" before
-// 0000; months, days, hours, minutes and seconds have two digits; the fraction of a second has up to seven.
-
-std::string PrintDateTime(const DateTime& value);      ///< date "T" time
-std::string PrintDate(const DateTime& value);          ///< yyyy-mm-dd
-std::string PrintTime(const DateTime& value);          ///< hh:mm:ss, fraction
-std::string PrintGYear(const DateTime& value);         ///< yyyy
-std::string PrintGYearMonth(const DateTime& value);    ///< yyyy-mm
-std::string PrintGMonth(const DateTime& value);        ///< --mm
-std::string PrintGMonthDay(const DateTime& value);     ///< --mm-dd
-std::string PrintGDay(const DateTime& value);          ///< ---dd
-std::string PrintDateSpaceTime(const DateTime& value); ///< date " " time
-std::string PrintSeconds(const DateTime& value);       ///< the tick count in seconds
-std::string PrintDays(const DateTime& value);          ///< the tick count in days, up to seven decimals
-
-/// "Z" for 0, else the sign, hours and minutes of an offset in minutes: "+05:30"; empty for NO_TIMEZONE.
-std::string PrintTimezone(std::int16_t minutes);
-
-/// Which parts TryParseDateTime accepts and which it insists on; a required part is allowed as well.
+/// The parts that the text of a date may have and those that it must have, which are allowed as well.
 enum DateTimeParts : unsigned {
-    REQUIRE_YEAR = 0x1,
-    REQUIRE_MONTH = 0x2,
-    REQUIRE_DAY = 0x4,
-    REQUIRE_TIME = 0x8,
-    ALLOW_YEAR = 0x10,
-    ALLOW_MONTH = 0x20,
-    ALLOW_DAY = 0x40,
-    ALLOW_TIME = 0x80,
-    ALLOW_ALL = 0xF0
+    REQUIRE_YEAR = 0x1,  ///< no text without a year
+    REQUIRE_MONTH = 0x2, ///< no text without a month
+    REQUIRE_DAY = 0x4,   ///< no text without a day
+    REQUIRE_TIME = 0x8,  ///< no text without a time of day
+    ALLOW_YEAR = 0x10,   ///< a year may stand there
+    ALLOW_MONTH = 0x20,  ///< a month may stand there
+    ALLOW_DAY = 0x40,    ///< a day may stand there
+    ALLOW_TIME = 0x80,   ///< a time of day may stand there
+    ALLOW_ALL = 0xF0     ///< any part, none required
 };
-
-/// Reads any form above but the last three, as far as `parts` (DateTimeParts) allows, white space around it
-/// allowed. A text without a date is of 0001-01-01, a date without a year of the leap year 0004. A "-" with
-/// two digits and a ":" is a timezone, not a month or day. Digits of a fraction beyond the seventh are
-/// dropped. The offset of a timezone is not bounded.
-///
-/// False for any other text; `result` is then unchanged. A field out of its range throws
-/// InvalidArgumentException as DateTime::Init does.
-bool TryParseDateTime(std::string_view text, unsigned parts, DateTime& result);
 
 } // namespace tessera
 

@@ -1,4 +1,4 @@
-#include "runtime/date_time.h"
+#include "runtime/date_time_text.h"
 
 #include "runtime/number.h"
 #include "runtime/text_cursor.h"
@@ -79,18 +79,13 @@ bool TakeDay(TextCursor& cursor, Fields& fields) {
     return cursor.Take('-') && cursor.TakeDigits(2, fields.day);
 }
 
-// A "-" may also begin a timezone west of Greenwich.
-bool AtDatePart(const TextCursor& cursor) {
-    return cursor.Peek() == '-' && cursor.Peek(3) != ':';
-}
-
 bool TakeMonthAndDay(TextCursor& cursor, Fields& fields) {
     cursor.Take('-');
     if (cursor.Peek() == '-') {
         return TakeDay(cursor, fields);
     }
     fields.present |= ALLOW_MONTH;
-    return cursor.TakeDigits(2, fields.month) && (!AtDatePart(cursor) || TakeDay(cursor, fields));
+    return cursor.TakeDigits(2, fields.month) && (cursor.Peek() != '-' || TakeDay(cursor, fields));
 }
 
 bool TakeDate(TextCursor& cursor, Fields& fields) {
@@ -103,7 +98,7 @@ bool TakeDate(TextCursor& cursor, Fields& fields) {
         return false;
     }
     fields.year = hasSign ? -fields.year : fields.year;
-    return !AtDatePart(cursor) || TakeMonthAndDay(cursor, fields);
+    return cursor.Peek() != '-' || TakeMonthAndDay(cursor, fields);
 }
 
 bool TakeTime(TextCursor& cursor, Fields& fields) {

@@ -33,12 +33,12 @@ YearMonthDuration YearMonthDuration::operator-() const {
     return YearMonthDuration(CheckedSubtract(0, months_, DURATION));
 }
 
-YearMonthDuration operator+(const YearMonthDuration& a, const YearMonthDuration& b) {
-    return YearMonthDuration(CheckedAdd(a.months_, b.months_, DURATION));
+YearMonthDuration YearMonthDuration::operator+(const YearMonthDuration& other) const {
+    return YearMonthDuration(CheckedAdd(months_, other.months_, DURATION));
 }
 
-YearMonthDuration operator-(const YearMonthDuration& a, const YearMonthDuration& b) {
-    return YearMonthDuration(CheckedSubtract(a.months_, b.months_, DURATION));
+YearMonthDuration YearMonthDuration::operator-(const YearMonthDuration& other) const {
+    return YearMonthDuration(CheckedSubtract(months_, other.months_, DURATION));
 }
 
 DayTimeDuration::DayTimeDuration(std::int32_t days, std::int32_t hours, std::int32_t minutes,
@@ -52,12 +52,12 @@ DayTimeDuration DayTimeDuration::operator-() const {
     return DayTimeDuration(CheckedSubtract(std::int64_t{0}, ticks_, DURATION));
 }
 
-DayTimeDuration operator+(const DayTimeDuration& a, const DayTimeDuration& b) {
-    return DayTimeDuration(CheckedAdd(a.ticks_, b.ticks_, DURATION));
+DayTimeDuration DayTimeDuration::operator+(const DayTimeDuration& other) const {
+    return DayTimeDuration(CheckedAdd(ticks_, other.ticks_, DURATION));
 }
 
-DayTimeDuration operator-(const DayTimeDuration& a, const DayTimeDuration& b) {
-    return DayTimeDuration(CheckedSubtract(a.ticks_, b.ticks_, DURATION));
+DayTimeDuration DayTimeDuration::operator-(const DayTimeDuration& other) const {
+    return DayTimeDuration(CheckedSubtract(ticks_, other.ticks_, DURATION));
 }
 
 Duration::Duration(const YearMonthDuration& yearMonth, const DayTimeDuration& dayTime)
@@ -79,13 +79,14 @@ Duration Duration::operator-() const {
     return Duration(-yearMonth_, -dayTime_);
 }
 
-bool operator==(const Duration& a, const Duration& b) {
-    return a.dayTime_ == b.dayTime_ && a.yearMonth_ == b.yearMonth_;
+bool Duration::operator==(const Duration& other) const {
+    return dayTime_ == other.dayTime_ && yearMonth_ == other.yearMonth_;
 }
 
-bool operator<(const Duration& a, const Duration& b) {
-    return std::all_of(std::begin(TELLING_DATES), std::end(TELLING_DATES),
-                       [&](const CalendarDate& start) { return EndFrom(start, a) < EndFrom(start, b); });
+bool Duration::operator<(const Duration& other) const {
+    return std::all_of(std::begin(TELLING_DATES), std::end(TELLING_DATES), [&](const CalendarDate& start) {
+        return EndFrom(start, *this) < EndFrom(start, other);
+    });
 }
 
 } // namespace tessera

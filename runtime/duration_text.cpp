@@ -1,4 +1,4 @@
-#include "runtime/duration.h"
+#include "runtime/duration_text.h"
 
 #include "runtime/exceptions.h"
 #include "runtime/number.h"
@@ -128,7 +128,7 @@ std::string PrintDuration(const YearMonthDuration& yearMonth, const DayTimeDurat
 }
 
 bool TryParseDuration(std::string_view text, Duration& result) {
-    TextCursor cursor(TrimWhitespace(text));
+    TextCursor cursor(TrimLeadingWhitespace(text));
     const bool isPositive = !cursor.Take('-');
     Magnitude magnitude;
     if (!TakeMagnitude(cursor, magnitude) || !cursor.AtEnd()) {

@@ -11,7 +11,7 @@ namespace {
 class AlwaysPass final : public FacetCheck {
 public:
     constexpr AlwaysPass() = default;
-    Result Check(const std::string&, const FacetInfo&, WhitespaceType) const override { return PASSES; }
+    int Check(const std::string&, const FacetInfo&, WhitespaceType) const override { return PASSES; }
 };
 
 // Whether a length satisfies the length that a facet gives.
@@ -33,7 +33,7 @@ template <LengthRule rule>
 class StringLength final : public FacetCheck {
 public:
     constexpr StringLength() = default;
-    Result Check(const std::string& value, const FacetInfo& facet, WhitespaceType whitespace) const override {
+    int Check(const std::string& value, const FacetInfo& facet, WhitespaceType whitespace) const override {
         const std::size_t length = LengthFacetCheckHelper::ComputeLength(value, whitespace);
         return rule(static_cast<long long>(length), facet.intValue) ? PASSES : FAILS;
     }
@@ -42,7 +42,7 @@ public:
 class StringEnumeration final : public FacetCheck {
 public:
     constexpr StringEnumeration() = default;
-    Result Check(const std::string& value, const FacetInfo& facet, WhitespaceType whitespace) const override {
+    int Check(const std::string& value, const FacetInfo& facet, WhitespaceType whitespace) const override {
         return LengthFacetCheckHelper::Equals(value, facet.value, whitespace) ? ENUMERATION_MATCHES
                                                                               : ENUMERATION_DIFFERS;
     }
@@ -89,7 +89,7 @@ bool PassesOwnFacets(const std::string& value, const TypeInfo& type, WhitespaceT
     bool isMatched = false;
     for (const FacetInfo* facet = &type.binder->facets[type.facetIndex]; facet->facetName != nullptr;
          ++facet) {
-        const FacetCheck::Result result =
+        const int result =
             facet->check == nullptr ? FacetCheck::PASSES : facet->check->Check(value, *facet, whitespace);
         if (result == FacetCheck::FAILS) {
             return false;

@@ -2,6 +2,7 @@
 #ifndef XTTML_RUNTIME_FACETS_H
 #define XTTML_RUNTIME_FACETS_H
 
+#include "runtime/export.h"
 #include "runtime/info.h"
 
 #include <cstddef>
@@ -10,19 +11,18 @@
 namespace tessera {
 
 /// Checks a value against one facet. The objects are constants and never deleted.
-class FacetCheck {
+class XTTML_API FacetCheck {
 public:
     /// What a check answers.
     enum Result : int {
-        FAILS = 0,
-        PASSES = 1,
+        FAILS = 0,               ///< the value is not valid
+        PASSES = 1,              ///< nothing against the value
         ENUMERATION_DIFFERS = 2, ///< an enumeration facet with another value
         ENUMERATION_MATCHES = 3  ///< an enumeration facet with this value
     };
 
-    /// `whitespace`: how the value's white space counts, resolved (never INHERITED).
-    virtual Result Check(const std::string& value, const FacetInfo& facet,
-                         WhitespaceType whitespace) const = 0;
+    /// One of Result. `whitespace`: how the value's white space counts, resolved (never INHERITED).
+    virtual int Check(const std::string& value, const FacetInfo& facet, WhitespaceType whitespace) const = 0;
 
 protected:
     constexpr FacetCheck() = default;
@@ -30,7 +30,7 @@ protected:
 };
 
 /// Lengths and comparisons of values whose white space has not been treated yet.
-class LengthFacetCheckHelper {
+class XTTML_API LengthFacetCheckHelper {
 public:
     /// True for tab, line feed, carriage return and space.
     static bool IsWhitespace(char c);
@@ -41,7 +41,7 @@ public:
 };
 
 /// Treats white space and validates values.
-class XsSchemaValidation {
+class XTTML_API XsSchemaValidation {
 public:
     /// Drops leading and trailing white space and replaces every inner run by one space.
     static std::string CollapseWhitespace(const std::string& value);
@@ -78,7 +78,7 @@ public:
 
 // The lengths of hexBinary and base64Binary are null: nothing checks them. The lengths and the enumeration
 // of string and the enumerations of the binary types are checked; every other check always passes.
-#define XTTML_DECLARE_CHECK(type, facet) extern const FacetCheck* const FacetCheck_##type##_##facet;
+#define XTTML_DECLARE_CHECK(type, facet) extern XTTML_API const FacetCheck* const FacetCheck_##type##_##facet;
 #define XTTML_DECLARE_CHECK_OF_TYPE(type) XTTML_VALUE_FACETS(XTTML_DECLARE_CHECK, type)
 XTTML_FACET_CHECKS(XTTML_DECLARE_CHECK)
 #undef XTTML_DECLARE_CHECK_OF_TYPE

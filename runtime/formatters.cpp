@@ -1,6 +1,8 @@
 #include "runtime/formatters.h"
 
 #include "runtime/binary.h"
+#include "runtime/date_time_text.h"
+#include "runtime/duration_text.h"
 #include "runtime/number.h"
 
 namespace tessera {
@@ -39,6 +41,34 @@ std::string XmlFormatter::Format(bool value) const {
 
 std::vector<unsigned char> XmlFormatter::ParseBinary(const std::string& text) const {
     return ParseBase64(text);
+}
+
+std::string XmlTimeFormatter::Format(const DateTime& value) const {
+    return PrintTime(value);
+}
+
+std::string XmlDateFormatter::Format(const DateTime& value) const {
+    return PrintDate(value);
+}
+
+std::string XmlGYearFormatter::Format(const DateTime& value) const {
+    return PrintGYear(value);
+}
+
+std::string XmlGMonthFormatter::Format(const DateTime& value) const {
+    return PrintGMonth(value);
+}
+
+std::string XmlGDayFormatter::Format(const DateTime& value) const {
+    return PrintGDay(value);
+}
+
+std::string XmlGYearMonthFormatter::Format(const DateTime& value) const {
+    return PrintGYearMonth(value);
+}
+
+std::string XmlGMonthDayFormatter::Format(const DateTime& value) const {
+    return PrintGMonthDay(value);
 }
 
 std::string XmlHexBinaryFormatter::Format(const std::vector<unsigned char>& value) const {

@@ -1,69 +1,151 @@
 // The lexical formatters: what writes a typed value in the form of its XML Schema type.
 //
-// There is one constant object of each class. They are ready before any static initialiser runs and are
-// never destroyed, so the classes have no virtual destructor.
+// The library has one constant object of each class, ready before any static initialiser runs and never
+// destroyed. A formatter is not deleted through a pointer to its base: no destructor is virtual.
 #ifndef XTTML_RUNTIME_FORMATTERS_H
 #define XTTML_RUNTIME_FORMATTERS_H
 
 #include "runtime/date_time.h"
 #include "runtime/duration.h"
+#include "runtime/export.h"
 
 #include <string>
 #include <vector>
 
 namespace tessera {
 
-/// Root of the formatters; none exists on its own.
-class ValueFormatter {
+/// Root of the formatters: writes every kind of value and reads bytes. The order of the nine operations is
+/// fixed.
+class XTTML_API ValueFormatter {
+public:
+    /// @{
+    /// The text of a value.
+    virtual std::string Format(const DateTime& value) const = 0;
+    virtual std::string Format(const Duration& value) const = 0;
+    virtual std::string Format(long long value) const = 0;
+    virtual std::string Format(unsigned long long value) const = 0;
+    virtual std::string Format(double value) const = 0;
+    virtual std::string Format(const std::string& value) const = 0;
+    virtual std::string Format(const std::vector<unsigned char>& value) const = 0;
+    virtual std::string Format(bool value) const = 0;
+    /// @}
+    /// The bytes in a text.
+    virtual std::vector<unsigned char> ParseBinary(const std::string& text) const = 0;
+
 protected:
     constexpr ValueFormatter() = default;
     ~ValueFormatter() = default;
 };
 
 /// The forms of dateTime, duration, decimal, double, string, base64Binary and boolean; the base of the
-/// others. The order of the nine operations is fixed.
-class XmlFormatter : public ValueFormatter {
+/// others. A class derived from it that declares a Format also says `using XmlFormatter::Format`.
+class XTTML_API XmlFormatter : public ValueFormatter {
 public:
     constexpr XmlFormatter() = default;
 
     /// The dateTime form.
-    virtual std::string Format(const DateTime& value) const;
-    /// Throws ValueNotRepresentableException when the signs of the parts differ.
-    virtual std::string Format(const Duration& value) const;
-    virtual std::string Format(long long value) const;
-    virtual std::string Format(unsigned long long value) const;
-    /// The shortest plain decimal of at most 15 significant digits; see PrintDouble.
-    virtual std::string Format(double value) const;
+    std::string Format(const DateTime& value) const override;
+    /// Both parts after one sign and one "P"; see CoreTypes::CastToString.
+    std::string Format(const Duration& value) const override;
+    /// @{
+    /// Decimal digits, a "-" before those of a negative value.
+    std::string Format(long long value) const override;
+    std::string Format(unsigned long long value) const override;
+    /// @}
+    /// The shortest plain decimal of at most 15 significant digits; see CoreTypes::CastToString.
+    std::string Format(double value) const override;
     /// The text unchanged.
-    virtual std::string Format(const std::string& value) const;
+    std::string Format(const std::string& value) const override;
     /// Base64 without line breaks.
-    virtual std::string Format(const std::vector<unsigned char>& value) const;
+    std::string Format(const std::vector<unsigned char>& value) const override;
     /// "true" or "false".
-    virtual std::string Format(bool value) const;
+    std::string Format(bool value) const override;
     /// Reads Base64; throws StringParseException of type "base64Binary".
-    virtual std::vector<unsigned char> ParseBinary(const std::string& text) const;
+    std::vector<unsigned char> ParseBinary(const std::string& text) const override;
+
+    /// @{
+    /// As the integer of 64 bits and the same sign.
+    std::string Format(int value) const { return Format(static_cast<long long>(value)); }
+    std::string Format(unsigned value) const { return Format(static_cast<unsigned long long>(value)); }
+    std::string Format(long value) const { return Format(static_cast<long long>(value)); }
+    std::string Format(unsigned long value) const { return Format(static_cast<unsigned long long>(value)); }
+    /// @}
+    /// Keeps pointers, string literals among them, from being taken for a bool.
+    std::string Format(const void* value) const = delete;
 };
 
-/// A formatter that differs from the base in the form of a DateTime only.
-template <std::string (*Print)(const DateTime&)>
-class DateTimePartFormatter final : public XmlFormatter {
+/// Writes a DateTime as hh:mm:ss, fraction; then the timezone when there is one.
+class XTTML_API XmlTimeFormatter : public XmlFormatter {
 public:
-    constexpr DateTimePartFormatter() = default;
+    constexpr XmlTimeFormatter() = default;
 
     using XmlFormatter::Format;
-    std::string Format(const DateTime& value) const override { return Print(value); }
+    /// hh:mm:ss, fraction, timezone.
+    std::string Format(const DateTime& value) const override;
 };
 
-using XmlTimeFormatter = DateTimePartFormatter<PrintTime>;
-using XmlDateFormatter = DateTimePartFormatter<PrintDate>;
-using XmlGYearFormatter = DateTimePartFormatter<PrintGYear>;
-using XmlGMonthFormatter = DateTimePartFormatter<PrintGMonth>;
-using XmlGDayFormatter = DateTimePartFormatter<PrintGDay>;
-using XmlGYearMonthFormatter = DateTimePartFormatter<PrintGYearMonth>;
-using XmlGMonthDayFormatter = DateTimePartFormatter<PrintGMonthDay>;
+/// Writes a DateTime as yyyy-mm-dd; then the timezone when there is one.
+class XTTML_API XmlDateFormatter : public XmlFormatter {
+public:
+    constexpr XmlDateFormatter() = default;
+
+    using XmlFormatter::Format;
+    /// yyyy-mm-dd, timezone.
+    std::string Format(const DateTime& value) const override;
+};
+
+/// Writes a DateTime as yyyy; then the timezone when there is one.
+class XTTML_API XmlGYearFormatter : public XmlFormatter {
+public:
+    constexpr XmlGYearFormatter() = default;
+
+    using XmlFormatter::Format;
+    /// yyyy, timezone.
+    std::string Format(const DateTime& value) const override;
+};
+
+/// Writes a DateTime as --mm; then the timezone when there is one.
+class XTTML_API XmlGMonthFormatter : public XmlFormatter {
+public:
+    constexpr XmlGMonthFormatter() = default;
+
+    using XmlFormatter::Format;
+    /// --mm, timezone.
+    std::string Format(const DateTime& value) const override;
+};
+
+/// Writes a DateTime as ---dd; then the timezone when there is one.
+class XTTML_API XmlGDayFormatter : public XmlFormatter {
+public:
+    constexpr XmlGDayFormatter() = default;
+
+    using XmlFormatter::Format;
+    /// ---dd, timezone.
+    std::string Format(const DateTime& value) const override;
+};
+
+/// Writes a DateTime as yyyy-mm; then the timezone when there is one.
+class XTTML_API XmlGYearMonthFormatter : public XmlFormatter {
+public:
+    constexpr XmlGYearMonthFormatter() = default;
+
+    using XmlFormatter::Format;
+    /// yyyy-mm, timezone.
+    std::string Format(const DateTime& value) const override;
+};
+
+/// Writes a DateTime as --mm-dd; then the timezone when there is one.
+class XTTML_API XmlGMonthDayFormatter : public XmlFormatter {
+public:
+    constexpr XmlGMonthDayFormatter() = default;
+
+    using XmlFormatter::Format;
+    /// --mm-dd, timezone.
+    std::string Format(const DateTime& value) const override;
+};
 
 /// Writes and reads bytes as hexadecimal digits.
-class XmlHexBinaryFormatter final : public XmlFormatter {
+class XTTML_API XmlHexBinaryFormatter : public XmlFormatter {
 public:
     constexpr XmlHexBinaryFormatter() = default;
 
@@ -75,7 +157,7 @@ public:
 };
 
 /// Writes a double as a whole number.
-class XmlIntegerFormatter final : public XmlFormatter {
+class XTTML_API XmlIntegerFormatter : public XmlFormatter {
 public:
     constexpr XmlIntegerFormatter() = default;
 
@@ -84,22 +166,24 @@ public:
     std::string Format(double value) const override;
 };
 
-// The formatter of each type, through which other modules reach the objects.
-extern const XmlFormatter& Exported_TimeFormatter;
-extern const XmlFormatter& Exported_DateFormatter;
-extern const XmlFormatter& Exported_DateTimeFormatter;
-extern const XmlFormatter& Exported_GYearFormatter;
-extern const XmlFormatter& Exported_GMonthFormatter;
-extern const XmlFormatter& Exported_GDayFormatter;
-extern const XmlFormatter& Exported_GYearMonthFormatter;
-extern const XmlFormatter& Exported_GMonthDayFormatter;
-extern const XmlFormatter& Exported_IntegerFormatter;
-extern const XmlFormatter& Exported_DecimalFormatter;
-extern const XmlFormatter& Exported_AnySimpleTypeFormatter;
-extern const XmlFormatter& Exported_DurationFormatter;
-extern const XmlFormatter& Exported_DoubleFormatter;
-extern const XmlFormatter& Exported_Base64BinaryFormatter;
-extern const XmlFormatter& Exported_HexBinaryFormatter;
+/// @{
+/// The formatter of the type that the name gives, through which other modules reach the object.
+extern XTTML_API const XmlFormatter& Exported_TimeFormatter;
+extern XTTML_API const XmlFormatter& Exported_DateFormatter;
+extern XTTML_API const XmlFormatter& Exported_DateTimeFormatter;
+extern XTTML_API const XmlFormatter& Exported_GYearFormatter;
+extern XTTML_API const XmlFormatter& Exported_GMonthFormatter;
+extern XTTML_API const XmlFormatter& Exported_GDayFormatter;
+extern XTTML_API const XmlFormatter& Exported_GYearMonthFormatter;
+extern XTTML_API const XmlFormatter& Exported_GMonthDayFormatter;
+extern XTTML_API const XmlFormatter& Exported_IntegerFormatter;
+extern XTTML_API const XmlFormatter& Exported_DecimalFormatter;
+extern XTTML_API const XmlFormatter& Exported_AnySimpleTypeFormatter;
+extern XTTML_API const XmlFormatter& Exported_DurationFormatter;
+extern XTTML_API const XmlFormatter& Exported_DoubleFormatter;
+extern XTTML_API const XmlFormatter& Exported_Base64BinaryFormatter;
+extern XTTML_API const XmlFormatter& Exported_HexBinaryFormatter;
+/// @}
 
 } // namespace tessera
 

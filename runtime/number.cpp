@@ -101,6 +101,9 @@ ParsedInteger ParseInteger(std::string_view text) {
         text.remove_prefix(1);
     }
     for (const char c : text) {
+        if (ClassOf(c) != DIGIT) {
+            break;
+        }
         const auto digit = static_cast<std::uint64_t>(c - '0');
         if (result.magnitude > (largest - digit) / 10) {
             result.overflow = true;

@@ -3,6 +3,7 @@
 #define XTTML_RUNTIME_NUMBER_H
 
 #include "runtime/exceptions.h"
+#include "runtime/parsed_integer.h"
 
 #include <cstdint>
 #include <limits>
@@ -34,14 +35,7 @@ LexicalNumber ClassifyNumber(std::string_view text);
 /// True for "NaN", "INF", "-INF" and whatever classifies as a number, white space around it allowed.
 bool IsNumber(std::string_view text);
 
-/// An integer as read: sign and magnitude.
-struct ParsedInteger {
-    std::uint64_t magnitude; ///< modulo 2^64 when `overflow` is set
-    bool positive;           ///< also set for minus zero
-    bool overflow;           ///< the magnitude does not fit in 64 bits
-};
-
-/// Reads the normalised copy of a text of kind INTEGER.
+/// Reads an optional sign and the digits after it; what follows the digits is not read.
 ParsedInteger ParseInteger(std::string_view text);
 
 /// The integer of a magnitude and a sign, or nothing when `Integer` cannot hold it.
@@ -74,8 +68,8 @@ template <class Integer, class Number>
 Integer CastNumber(Number value);
 
 /// The shortest plain decimal (no exponent) that reads back as `value`, at most 15 significant digits; a
-/// value that needs more is rounded to 15. "NaN", "INF" and "-INF" for what is no number; "0" for both
-/// zeros.
+/// value that needs more is rounded to the nearest with 15, a half up. "NaN", "INF" and "-INF" for what is
+/// no number; "0" for both zeros.
 std::string PrintDouble(double value);
 
 /// An integer's decimal digits, "-" before a negative one; a floating-point number as PrintDouble prints it.

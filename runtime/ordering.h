@@ -8,10 +8,13 @@ namespace tessera {
 /// neither equal nor less nor greater, so `<=` means less or equal and never "not greater".
 template <class T>
 struct PartialOrder {
+    /// @{
+    /// What == and < make of it.
     friend bool operator!=(const T& a, const T& b) { return !(a == b); }
     friend bool operator>(const T& a, const T& b) { return b < a; }
     friend bool operator<=(const T& a, const T& b) { return a == b || a < b; }
     friend bool operator>=(const T& a, const T& b) { return b <= a; }
+    /// @}
 };
 
 } // namespace tessera

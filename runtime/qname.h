@@ -2,15 +2,17 @@
 #ifndef XTTML_RUNTIME_QNAME_H
 #define XTTML_RUNTIME_QNAME_H
 
+#include "runtime/export.h"
+
 #include <string>
 
 namespace tessera {
 
 /// A name with its namespace; an empty `uri` means no namespace, an empty `prefix` no prefix.
-struct QName {
-    std::string uri;
-    std::string prefix;
-    std::string localName;
+struct XTTML_API QName {
+    std::string uri;       ///< the name of the namespace
+    std::string prefix;    ///< what stands before the ":"
+    std::string localName; ///< the name without a prefix
 
     /// A local name alone, or Clark notation: "{namespace}local". A brace elsewhere belongs to the name.
     explicit QName(const std::string& text);

@@ -4,10 +4,15 @@
 
 namespace tessera {
 
-std::string_view TrimWhitespace(std::string_view text) {
+std::string_view TrimLeadingWhitespace(std::string_view text) {
     while (!text.empty() && IsWhitespace(text.front())) {
         text.remove_prefix(1);
     }
+    return text;
+}
+
+std::string_view TrimWhitespace(std::string_view text) {
+    text = TrimLeadingWhitespace(text);
     while (!text.empty() && IsWhitespace(text.back())) {
         text.remove_suffix(1);
     }

@@ -13,6 +13,9 @@ constexpr bool IsWhitespace(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
+/// The text without leading white space; a view into the argument.
+std::string_view TrimLeadingWhitespace(std::string_view text);
+
 /// The text without leading and trailing white space; a view into the argument.
 std::string_view TrimWhitespace(std::string_view text);
 

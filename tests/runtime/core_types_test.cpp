@@ -35,6 +35,15 @@ constexpr auto ToUInt = Outcome<unsigned, CoreTypes::CastToUInt>;
 constexpr auto ToInt64 = Outcome<long long, CoreTypes::CastToInt64>;
 constexpr auto ToUInt64 = Outcome<unsigned long long, CoreTypes::CastToUInt64>;
 
+template <class T>
+auto IsPrinted(T value) -> decltype(CoreTypes::CastToString(value), true) {
+    return true;
+}
+
+bool IsPrinted(...) {
+    return false;
+}
+
 } // namespace
 
 TEST(CoreTypes, IntegersFromText) {
@@ -146,6 +155,45 @@ TEST(CoreTypes, NumbersBetweenTypes) {
     EXPECT_EQ(thrown([] { CoreTypes::CastToInt(std::nan("")); }), CannotConvert("NaN", "double", "int"));
 }
 
+TEST(CoreTypes, OtherNumbersArePromoted) {
+    enum Side { LEFT = 5 };
+    EXPECT_EQ(CoreTypes::CastToString(LEFT), "5");
+    EXPECT_EQ(CoreTypes::CastToInt('a'), 97);
+    EXPECT_EQ(CoreTypes::CastToUInt64(short{-1}), UINT64_LARGEST);
+    EXPECT_EQ(CoreTypes::CastToInt64(LEFT), 5);
+    EXPECT_EQ(CoreTypes::CastToDouble(2.5F), 2.5);
+    EXPECT_EQ(*std::unique_ptr<int>(CoreTypes::Box('a')), 97);
+    EXPECT_EQ(*std::unique_ptr<std::int64_t>(CoreTypes::Box(std::int64_t{-3})), -3);
+    const std::uint64_t large = UINT64_LARGEST;
+    EXPECT_EQ(CoreTypes::CastToString(&large), "18446744073709551615");
+    EXPECT_EQ(ThrownMessage<OutOfRangeException>([] { CoreTypes::CastToUInt64(std::int64_t{-1}); }),
+              CannotConvert("-1", "long", "unsignedLong"));
+    EXPECT_FALSE(IsPrinted(static_cast<unsigned char*>(nullptr)));
+    EXPECT_TRUE(IsPrinted(&large) && IsPrinted("text"));
+}
+
+TEST(CoreTypes, DigitsAreReadWithSignAndOverflow) {
+    const struct {
+        const char* text;
+        std::uint64_t magnitude;
+        bool positive, overflow;
+    } cases[] = {
+        {"+30", 30, true, false},
+        {"-30", 30, false, false},
+        {"-0", 0, true, false},
+        {"-18446744073709551615", UINT64_LARGEST, false, false},
+        {"-18446744073709551616", 0, false, true},
+        {"30/", 30, true, false}, // no digit, though next to them
+        {"", 0, true, false},
+    };
+    for (const auto& c : cases) {
+        const ParsedInteger integer = CoreTypes::ParseInteger(c.text);
+        EXPECT_EQ(integer.magnitude, c.magnitude) << c.text;
+        EXPECT_EQ(integer.positive, c.positive) << c.text;
+        EXPECT_EQ(integer.overflow, c.overflow) << c.text;
+    }
+}
+
 TEST(CoreTypes, IntegersGoOutAndComeBack) {
     std::mt19937_64 generator(7);
     for (int i = 0; i < 10000; ++i) {
@@ -178,7 +226,9 @@ TEST(CoreTypes, BoxesHoldACopyOrNothing) {
     int number = 5;
     const std::unique_ptr<int> box(CoreTypes::Box(number));
     number = 6;
-    EXPECT_EQ(CoreTypes::Unbox(box.get()), 5);
+    const int& unboxed = CoreTypes::Unbox(box.get());
+    *box = 7;
+    EXPECT_EQ(unboxed, 5);
     const std::unique_ptr<std::string> text(CoreTypes::Box(std::string("12")));
     EXPECT_EQ(CoreTypes::CastToInt(text.get()), 12);
     const bool yes = true;

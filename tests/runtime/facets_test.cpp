@@ -57,7 +57,9 @@ TEST(Facets, NameTheirChecks) {
         const auto other = others.find(name);
         EXPECT_EQ(check, other == others.end() ? alwaysPass : other->second) << name;
     }
-    EXPECT_EQ(alwaysPass->Check("anything", FACETS[0], WhitespaceType::PRESERVE), 1);
+    const auto answer = alwaysPass->Check("anything", FACETS[0], WhitespaceType::PRESERVE);
+    EXPECT_EQ(answer, 1);
+    EXPECT_TRUE((std::is_same_v<decltype(answer), const int>));
 }
 
 TEST(Facets, CheckLengths) {

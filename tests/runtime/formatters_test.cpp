@@ -1,3 +1,7 @@
+namespace tessera {
+class XmlGMonthDayFormatter; // may be declared ahead
+}
+
 #include "runtime/formatters.h"
 
 #include "runtime/exceptions.h"
@@ -13,6 +17,12 @@ namespace {
 
 // Read while the program's statics are set up, possibly before the formatters' own file is.
 const std::string EARLY = Exported_IntegerFormatter.Format(2.9) + Exported_TimeFormatter.Format(true);
+
+class ExclamationFormatter : public XmlGDayFormatter {
+public:
+    using XmlGDayFormatter::Format;
+    std::string Format(const std::string& value) const override { return value + "!"; }
+};
 
 } // namespace
 
@@ -50,6 +60,8 @@ TEST(Formatters, WriteEveryOtherValueAsTheBaseDoes) {
     for (const XmlFormatter* formatter : formatters) {
         EXPECT_EQ(formatter->Format(Duration(YearMonthDuration(1), DayTimeDuration(1))), "P1MT0.0000001S");
         EXPECT_EQ(formatter->Format(-5LL) + formatter->Format(5ULL), "-55");
+        EXPECT_EQ(formatter->Format(std::int64_t{-5}) + formatter->Format(std::uint64_t{5}), "-55");
+        EXPECT_EQ(formatter->Format(-5) + formatter->Format(5U), "-55");
         EXPECT_EQ(formatter->Format(std::string(" a ")), " a ");
         EXPECT_EQ(formatter->Format(true) + formatter->Format(false), "truefalse");
     }
@@ -57,6 +69,13 @@ TEST(Formatters, WriteEveryOtherValueAsTheBaseDoes) {
     EXPECT_EQ(Exported_Base64BinaryFormatter.Format(std::vector<unsigned char>{'M'}), "TQ==");
     EXPECT_EQ(Exported_Base64BinaryFormatter.ParseBinary(" TQ== "), std::vector<unsigned char>{'M'});
     EXPECT_EQ(Exported_HexBinaryFormatter.ParseBinary("0a"), std::vector<unsigned char>{0x0A});
+}
+
+TEST(Formatters, AreClassesToDeriveFrom) {
+    const ExclamationFormatter exclamation;
+    const ValueFormatter& formatter = exclamation;
+    EXPECT_EQ(formatter.Format(DateTime(2011, 1, 2, 0, 0, 0)), "---02");
+    EXPECT_EQ(formatter.Format(std::string("a")), "a!");
 }
 
 TEST(Formatters, WriteWholeNumbersForIntegers) {
