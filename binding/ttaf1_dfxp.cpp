@@ -1,6 +1,7 @@
 #include "binding/ttaf1_dfxp.h"
 
 #include "runtime/exceptions.h"
+#include "runtime/progress_lines.h"
 #include "xmltree/namespace_names.h"
 #include "xmltree/transcode.h"
 #include "xmltree/tree_operations.h"
@@ -8,7 +9,6 @@
 #include <xercesc/dom/DOMDocumentType.hpp>
 #include <xercesc/dom/DOMImplementation.hpp>
 
-#include <iostream>
 #include <memory>
 
 using xercesc::DOMDocument;
@@ -44,7 +44,7 @@ void RemoveDocumentType(DOMDocument& document) {
 } // namespace
 
 Cttaf1_dfxp Cttaf1_dfxp::LoadFromFile(const std::string& path) {
-    std::cout << "LoadFromFile called in ttaf1_dfxp" << std::endl;
+    tessera::WriteLine("LoadFromFile called in ttaf1_dfxp");
     return Cttaf1_dfxp(XercesTreeOperations::LoadDocument(path));
 }
 

@@ -1,6 +1,6 @@
 #include "parser/display_item.h"
 
-#include <iostream>
+#include "runtime/progress_lines.h"
 
 Sentence::Sentence() : pStylingAttrib(nullptr), fgLineBreak(false) {}
 
@@ -29,8 +29,13 @@ void TextItem::vSetContent(const std::string& strText) {
     strContent = strText;
 }
 
+std::string* TextItem::pstrGetContent() {
+    tessera::WriteLine(strContent);
+    return &strContent;
+}
+
 const std::string* TextItem::pstrGetContent() const {
-    std::cout << strContent << std::endl;
+    tessera::WriteLine(strContent);
     return &strContent;
 }
 

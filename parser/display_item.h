@@ -48,12 +48,13 @@ public:
     bool fgCheckTimeInfo(std::int32_t iTime) const { return iTime >= iBeginTime && iTime <= iEndTime; }
 
     StylingAttrib styling; ///< the item's resolved styling
-    const StylingAttrib*
-        pRegionAttrib;                 ///< the region that a paragraph names, borrowed; null: none or unknown
-    const StylingAttrib* pStyleAttrib; ///< the style that a paragraph names, borrowed; null: none or unknown
-    bool fgForcedDisplay;              ///< shown even when subtitles are off (CFF-TT forcedDisplayMode)
-    std::int32_t iBeginTime;           ///< first millisecond on screen
-    std::int32_t iEndTime;             ///< last millisecond on screen
+    /// The region that a paragraph names; null: none or unknown. Borrowed: items share it, nobody changes it.
+    StylingAttrib* pRegionAttrib;
+    /// The style that a paragraph names; null: none or unknown. Borrowed like the region.
+    StylingAttrib* pStyleAttrib;
+    bool fgForcedDisplay;    ///< shown even when subtitles are off (CFF-TT forcedDisplayMode)
+    std::int32_t iBeginTime; ///< first millisecond on screen
+    std::int32_t iEndTime;   ///< last millisecond on screen
 };
 
 /// A paragraph of text.
@@ -66,6 +67,8 @@ public:
     /// Copies a text into strContent.
     void vSetContent(const std::string& strText);
     /// strContent, owned by the item; also writes it and a line end to standard output.
+    std::string* pstrGetContent();
+    /// The same, to read.
     const std::string* pstrGetContent() const;
     /// The length of strContent in bytes.
     unsigned int uGetContentLength() const;
@@ -94,7 +97,9 @@ public:
 
     /// Copies a reference to the image into strImageURI.
     void SetImageURI(const std::string& strURI);
-    /// The reference stored with SetImageURI(); empty until then.
+    /// The reference stored with SetImageURI(), strImageURI itself; empty until then.
+    std::string& GetImageURI() { return strImageURI; }
+    /// The same, to read.
     const std::string& GetImageURI() const { return strImageURI; }
 
     std::string strImageURI;        ///< an image reference that a caller may store

@@ -2,11 +2,11 @@
 #include "parser/ttml_parser.h"
 
 #include "runtime/number.h"
+#include "runtime/progress_lines.h"
 #include "runtime/whitespace.h"
 #include "style/length.h"
 
 #include <algorithm>
-#include <iostream>
 
 using namespace ttaf1_dfxp::tt;
 
@@ -34,6 +34,10 @@ double fReadTickRate(const Ctt_eltype& root, std::int32_t iFrameRate) {
     return iFrameRate * (strSubFrameRate ? fPositiveInteger(*strSubFrameRate) : 1);
 }
 
+void vWriteTime(const char* name, std::int32_t iTime) {
+    tessera::WriteLine(name + std::to_string(static_cast<std::uint32_t>(iTime)));
+}
+
 } // namespace
 
 std::string TtmlParser::strGetDocLanguage() const {
@@ -43,11 +47,11 @@ std::string TtmlParser::strGetDocLanguage() const {
 std::optional<Cbody_eltype> TtmlParser::rFindBodyWithDivision() const {
     const Cbody_eltype body = documentRoot_.tt.first().body.first();
     if (!body.GetNode()) {
-        std::cout << "<body> element not found!" << std::endl;
+        tessera::WriteLine("<body> element not found!");
         return std::nullopt;
     }
     if (!body.div.exists()) {
-        std::cout << "<div> element not found!" << std::endl;
+        tessera::WriteLine("<div> element not found!");
         return std::nullopt;
     }
     return body;
@@ -105,6 +109,6 @@ void TtmlParser::vExtendDocumentTime(const DisplayItem& item) {
 }
 
 void TtmlParser::vWriteDocumentTime() const {
-    std::cout << "document start time " << static_cast<std::uint32_t>(iDocumentStartTime_) << std::endl;
-    std::cout << "document end time " << static_cast<std::uint32_t>(iDocumentEndTime_) << std::endl;
+    vWriteTime("document start time ", iDocumentStartTime_);
+    vWriteTime("document end time ", iDocumentEndTime_);
 }

@@ -1,11 +1,10 @@
 #include "parser/ttml_parser.h"
+#include "runtime/progress_lines.h"
 #include "style/attribute_reading.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdlib>
 #include <cstring>
-#include <iostream>
 
 using namespace ttaf1_dfxp::tt;
 
@@ -60,17 +59,19 @@ void TtmlParser::vGenerateImageDisplaySequence(int iOffset) {
 
 void TtmlParser::vGeneratePNGBufferInfo() {
     if (vecDocumentBuffer_.empty()) {
-        std::cout << "Invalid PNG Buffer" << std::endl;
+        tessera::WriteLine("Invalid PNG Buffer");
         return;
     }
     aImageTable_.fill({});
     const std::uint8_t* pStart = vecDocumentBuffer_.data();
-    // The stored size may be 0 or below while an older block is held: then there is nothing to cut.
-    const std::uint8_t* const pEnd = pStart + std::max(iDocumentBufferSize_, 0);
-    if (pStart == pEnd) {
+    // The stored size need not be that of the copy: a later block without bytes leaves the copy as it is.
+    if (iDocumentBufferSize_ < 1) {
         aImageTable_[0] = {pStart, iDocumentBufferSize_};
         return;
     }
+    const std::uint8_t* const pEnd =
+        pStart +
+        std::min<std::size_t>(static_cast<std::uint32_t>(iDocumentBufferSize_), vecDocumentBuffer_.size());
     for (ImageTableEntry& entry : aImageTable_) {
         const auto uSkipped = std::min<std::ptrdiff_t>(uSignatureSize, pEnd - pStart);
         const std::uint8_t* const pNext = pFindSignature(pStart + uSkipped, pEnd);
@@ -85,8 +86,8 @@ std::uint32_t TtmlParser::uGetImageIndex(const std::string& strReference) {
     const std::size_t uPoint = strReference.rfind('.');
     if (strReference.size() <= uIndexPosition || uPoint == std::string::npos || uPoint <= uIndexPosition)
         return uNoIndex;
-    const long iIndex = std::strtol(strReference.c_str() + uIndexPosition, nullptr, 10);
-    return static_cast<std::uint32_t>(std::clamp<long>(iIndex, INT_MIN, INT_MAX));
+    // The low half of 64 bits, as atoi gives it where long has them; alike on every machine.
+    return static_cast<std::uint32_t>(std::strtoll(strReference.c_str() + uIndexPosition, nullptr, 10));
 }
 
 void TtmlParser::vGetImageItem(Cdiv_eltype division, int iOffset) {

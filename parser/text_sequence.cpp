@@ -1,12 +1,11 @@
 #include "parser/content_walk.h"
 #include "parser/ttml_parser.h"
+#include "runtime/progress_lines.h"
 #include "style/attribute_reading.h"
 
 #include <xercesc/dom/DOMText.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLString.hpp>
-
-#include <iostream>
 
 using namespace ttaf1_dfxp::tt;
 
@@ -156,7 +155,7 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
     if (!body)
         return;
     auto itrP = itrGetPItem(body->div.first());
-    std::cout << "vGenerateTextDisplaySequence called!" << std::endl;
+    tessera::WriteLine("vGenerateTextDisplaySequence called!");
     vReadRootExtent();
     vResetDocumentTime();
     vGenerateRegionAttribSequence();
@@ -168,7 +167,7 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
     }
     timeIndex_.vBuild(vecDisplaySequence_);
     vWriteDocumentTime();
-    std::cout << strGetDocLanguage() << std::endl;
+    tessera::WriteLine(strGetDocLanguage());
 }
 
 std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,

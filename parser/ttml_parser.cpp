@@ -1,8 +1,9 @@
 #include "parser/ttml_parser.h"
 
+#include "runtime/progress_lines.h"
+
 #include <xercesc/util/PlatformUtils.hpp>
 
-#include <iostream>
 #include <utility>
 
 using ttaf1_dfxp::tt::Cttaf1_dfxp;
@@ -18,7 +19,7 @@ TtmlParser::TtmlParser()
       iSubtitleType_(0), iDocumentBufferSize_(0), uCurrentIndex_(0), documentRoot_(nullptr) {}
 
 TtmlParser::~TtmlParser() {
-    std::cout << "destruct Parser\n";
+    tessera::WriteLineUnflushed("destruct Parser");
     regionTable_.vClear();
     styleTable_.vClear();
     vClearDisplaySequence();
@@ -27,15 +28,15 @@ TtmlParser::~TtmlParser() {
 bool TtmlParser::fgHoldDocument(const Cttaf1_dfxp& loaded) {
     documentRoot_ = loaded;
     const bool fgHasRoot = documentRoot_.tt.exists();
-    std::cout << (fgHasRoot ? "load from file ok\n" : "load from file failed\n");
+    tessera::WriteLineUnflushed(fgHasRoot ? "load from file ok" : "load from file failed");
     return fgHasRoot;
 }
 
 bool TtmlParser::fgLoadDocument(const char* path) {
-    std::cout << "loadFromFile called!" << std::endl;
+    tessera::WriteLine("loadFromFile called!");
     xercesc::XMLPlatformUtils::Initialize();
     const Cttaf1_dfxp loaded = Cttaf1_dfxp::LoadFromFile(path ? path : "");
-    std::cout << "loadFromFile finished!" << std::endl;
+    tessera::WriteLine("loadFromFile finished!");
     return fgHoldDocument(loaded);
 }
 
@@ -44,39 +45,38 @@ bool TtmlParser::fgLoadDocument(const void* data, unsigned int size) {
         const auto* const pBytes = static_cast<const unsigned char*>(data);
         return fgHoldDocument(Cttaf1_dfxp::LoadFromBinary(pBytes, pBytes ? size : 0));
     } catch (const tessera::DataSourceUnavailableException& exception) {
-        std::cout << exception.message() << std::endl;
+        tessera::WriteLine(exception.message());
     } catch (...) {
-        std::cout << "Unknown Exception Occured!" << std::endl;
+        tessera::WriteLine("Unknown Exception Occured!");
     }
     return false;
 }
 
 void TtmlParser::vSetDocumentBuffer(const char* buffer, int size) {
-    const int iSize = buffer ? size : 0;
-    if (iSize >= 1) {
-        std::vector<std::uint8_t> vecCopy(buffer, buffer + iSize);
-        if (fgItemsUseDocumentBuffer())
-            vecEarlierBuffers_.push_back(std::move(vecDocumentBuffer_));
-        vecDocumentBuffer_ = std::move(vecCopy);
-        aImageTable_.fill({});
-    }
-    iDocumentBufferSize_ = iSize;
+    iDocumentBufferSize_ = size;
+    if (!buffer || size < 1)
+        return;
+    std::vector<std::uint8_t> vecCopy(buffer, buffer + size);
+    if (fgItemsUseDocumentBuffer())
+        vecEarlierBuffers_.push_back(std::move(vecDocumentBuffer_));
+    vecDocumentBuffer_ = std::move(vecCopy);
+    aImageTable_.fill({});
 }
 
 void TtmlParser::vCloseDocument() {
-    std::cout << "Close Document!" << std::endl;
+    tessera::WriteLine("Close Document!");
     if (documentRoot_.GetNode())
         documentRoot_.DestroyDocument();
-    std::cout << "Document Closed!" << std::endl;
+    tessera::WriteLine("Document Closed!");
 }
 
 void TtmlParser::vXercesInit() {
-    std::cout << "Initialize Xerces" << std::endl;
+    tessera::WriteLine("Initialize Xerces");
     xercesc::XMLPlatformUtils::Initialize();
 }
 
 void TtmlParser::vXercesTerminate() {
-    std::cout << "Terminate Xerces" << std::endl;
+    tessera::WriteLine("Terminate Xerces");
     xercesc::XMLPlatformUtils::Terminate();
 }
 
@@ -90,11 +90,11 @@ void TtmlParser::vGenerateStyleAttribSequence() {
     styleTable_.vGenerate(documentRoot_.tt.first());
 }
 
-const StylingAttrib* TtmlParser::prGetRegionByID(const std::string& strId) const {
+StylingAttrib* TtmlParser::prGetRegionByID(const std::string& strId) const {
     return regionTable_.prGetByID(strId);
 }
 
-const StylingAttrib* TtmlParser::prGetStyleByID(const std::string& strId) const {
+StylingAttrib* TtmlParser::prGetStyleByID(const std::string& strId) const {
     return styleTable_.prGetByID(strId);
 }
 

@@ -33,7 +33,9 @@ enum offset_time_metric_e : std::int32_t {
     OFFSET_METRIC_TICKS = 6         ///< "t"
 };
 
-/// What a document's time expressions count in.
+/// What a document's time expressions count in (TTML 1.0, 6.2.4 and 6.2.10): ttp:frameRate, 30 without it,
+/// and ttp:tickRate; without that, frame rate times ttp:subFrameRate (1 without it) when ttp:frameRate is
+/// given, else 1. A tick rate that is not a positive integer counts as 0.
 struct TimeRates {
     std::int32_t iFrameRate = 30; ///< frames a second; 0 or less makes times in frames invalid
     double fTickRate = 1;         ///< ticks a second; 0 or less makes times in ticks invalid
@@ -72,7 +74,10 @@ public:
     /// Loads a document from memory; the bytes are read during the call only.
     /// @return whether it could be parsed and has a tt root element; without one it is held all the same
     bool fgLoadDocument(const void* data, unsigned int size);
-    /// Copies a block of image data of `size` bytes; a size below 1 keeps the copy held so far.
+    /// Copies a block of image data. The size is stored in any case; one below 1, and a null buffer, which
+    /// leaves nothing to copy, keep the copy held so far. The next cut goes by the stored size, but never
+    /// beyond the copy.
+    /// @param size the bytes of the block
     void vSetDocumentBuffer(const char* buffer, int size);
     /// Releases the document, when there is one.
     void vCloseDocument();
@@ -138,9 +143,10 @@ public:
     void vGenerateRegionAttribSequence();
     /// Appends the styles of head/styling.
     void vGenerateStyleAttribSequence();
-    /// The record of the first entry with the identifier, owned by the table; null: unknown.
-    const StylingAttrib* prGetRegionByID(const std::string& strId) const;
-    const StylingAttrib* prGetStyleByID(const std::string& strId) const;
+    /// The record of the first entry with the identifier, owned by the table and not to be
+    /// changed; null: unknown.
+    StylingAttrib* prGetRegionByID(const std::string& strId) const;
+    StylingAttrib* prGetStyleByID(const std::string& strId) const;
     /// A copy of the first entry with the identifier; a default group when it is unknown.
     StylingAttribGroup rGetRegionByID(const std::string& strId) const;
     StylingAttribGroup rGetStyleByID(const std::string& strId) const;

@@ -1,19 +1,17 @@
 #include "style/style_tables.h"
 
-#include <utility>
-
 void StylingTable::vClear() {
     firstById_.clear();
     entries_.clear();
 }
 
-const StylingAttribGroup* StylingTable::prFind(const std::string& strId) const {
+StylingAttribGroup* StylingTable::prFind(const std::string& strId) const {
     const auto found = firstById_.find(strId);
     return found == firstById_.end() ? nullptr : found->second;
 }
 
-const StylingAttrib* StylingTable::prGetByID(const std::string& strId) const {
-    const StylingAttribGroup* const pEntry = prFind(strId);
+StylingAttrib* StylingTable::prGetByID(const std::string& strId) const {
+    StylingAttribGroup* const pEntry = prFind(strId);
     return pEntry ? &pEntry->attrib : nullptr;
 }
 
@@ -22,8 +20,8 @@ StylingAttribGroup StylingTable::rGetByID(const std::string& strId) const {
     return pEntry ? *pEntry : StylingAttribGroup();
 }
 
-void StylingTable::vAppend(StylingAttribGroup group) {
-    entries_.push_back(std::move(group));
+void StylingTable::vAppend(const StylingAttribGroup& group) {
+    entries_.push_back(group);
     firstById_.emplace(entries_.back().strId, &entries_.back());
 }
 
@@ -33,7 +31,7 @@ void StyleTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root) {
         StylingAttribGroup group;
         group.strId = itrStyle.id.value().value_or("");
         vReadStyling(itrStyle, styleRules, group.attrib);
-        vAppend(std::move(group));
+        vAppend(group);
     }
 }
 
@@ -46,6 +44,6 @@ void RegionTable::vGenerate(const ttaf1_dfxp::tt::Ctt_eltype& root, const Extent
         group.strId = itrRegion.id.value().value_or("");
         vReadGeometry(itrRegion, PairOutcome::ZERO, rootExtent, group.attrib);
         vReadStyling(itrRegion, regionRules, group.attrib);
-        vAppend(std::move(group));
+        vAppend(group);
     }
 }

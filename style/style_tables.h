@@ -18,8 +18,8 @@
 /// What both tables share.
 class StylingTable {
 public:
-    /// The record of an entry, owned by the table; null when the identifier is unknown.
-    const StylingAttrib* prGetByID(const std::string& strId) const;
+    /// The record of an entry, owned by the table and not to be changed; null when the identifier is unknown.
+    StylingAttrib* prGetByID(const std::string& strId) const;
     /// A copy of an entry; a default group when the identifier is unknown.
     StylingAttribGroup rGetByID(const std::string& strId) const;
     /// How many entries there are.
@@ -28,13 +28,13 @@ public:
     void vClear();
 
 protected:
-    void vAppend(StylingAttribGroup group);
+    void vAppend(const StylingAttribGroup& group);
 
 private:
-    const StylingAttribGroup* prFind(const std::string& strId) const;
+    StylingAttribGroup* prFind(const std::string& strId) const;
 
     std::deque<StylingAttribGroup> entries_;
-    std::unordered_map<std::string_view, const StylingAttribGroup*> firstById_; // keys stand in the entries
+    std::unordered_map<std::string_view, StylingAttribGroup*> firstById_; // keys stand in the entries
 };
 
 class StyleTable : public StylingTable {

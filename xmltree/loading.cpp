@@ -1,6 +1,7 @@
 #include "xmltree/tree_operations.h"
 
 #include "runtime/exceptions.h"
+#include "runtime/progress_lines.h"
 #include "xmltree/document_parser.h"
 #include "xmltree/transcode.h"
 #ifdef XTTML_UNTRUSTED_XML
@@ -13,8 +14,6 @@
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
-
-#include <cstdio>
 
 using tessera::DataSourceUnavailableException;
 using xercesc::DOMDocument;
@@ -36,7 +35,7 @@ struct SilentLoad {
 
 /// A load from a file reports every step on standard output and names the file in its failures.
 struct ReportedLoad {
-    void Line(const char* text) const { std::puts(text); }
+    void Line(const char* text) const { tessera::WriteLoadingLine(text); }
     std::string Failure(const std::string& message) const { return path + ": " + message; }
 
     const std::string& path;
@@ -92,8 +91,8 @@ DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
 } // namespace
 
 DOMDocument* XercesTreeOperations::LoadDocument(const std::string& path) {
-    std::puts("XercesTreeOperations::LoadDocument called!");
-    std::puts("declare parser OK");
+    tessera::WriteLoadingLine("XercesTreeOperations::LoadDocument called!");
+    tessera::WriteLoadingLine("declare parser OK");
     return Load(ReportedLoad{path}, [&path](Parser& parser) { parser.parse(XercesStringTemp(path)); });
 }
 

@@ -39,8 +39,18 @@ TEST_F(CppPlayer, ReadsAnItem) {
     EXPECT_EQ(pItem->pGetSentenceSeq()->size(), 2U);
     EXPECT_EQ(pItem->pGetSentenceSeq()->at(1)->pStylingAttrib->iFontStyle, 1);
     pItem->vSetContent("plain");
-    EXPECT_EQ(*pItem->pstrGetContent(), "plain");
-    EXPECT_EQ(pItem->uGetContentLength(), 5U);
+    std::string* const pstrContent = pItem->pstrGetContent();
+    EXPECT_EQ(*pstrContent, "plain");
+    EXPECT_EQ(*static_cast<const TextItem*>(pItem)->pstrGetContent(), "plain");
+    pstrContent->append("er");
+    EXPECT_EQ(pItem->uGetContentLength(), 7U);
+    for (StylingAttrib* const pBorrowed : {pItem->pRegionAttrib, pItem->pStyleAttrib})
+        EXPECT_EQ(pBorrowed, nullptr);
+    ImageItem image;
+    image.SetImageURI("one");
+    std::string& strURI = image.GetImageURI();
+    strURI += ".png";
+    EXPECT_EQ(static_cast<const ImageItem&>(image).GetImageURI(), "one.png");
 }
 
 TEST_F(CppPlayer, CatchesByType) {

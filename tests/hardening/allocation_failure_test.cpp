@@ -17,9 +17,6 @@
 #include <map>
 #include <new>
 
-#include <dlfcn.h>
-#include <regex.h>
-
 namespace {
 
 /// Counts allocations and makes one of them fail.
@@ -88,29 +85,6 @@ const char* __lsan_default_suppressions() {
 }
 
 namespace {
-bool hasMemoryForPatterns = true;
-} // namespace
-
-/// Stands before the C library's own, whose memory is not operator new's.
-extern "C" int regcomp(regex_t* expression, const char* pattern, int flags) {
-    static const auto original = reinterpret_cast<decltype(&regcomp)>(dlsym(RTLD_NEXT, "regcomp"));
-    return hasMemoryForPatterns ? original(expression, pattern, flags) : REG_ESPACE;
-}
-
-namespace {
-
-// The first test, before a length has been read in this process.
-TEST(PatternFailure, EndsWithTheLackOfMemory) {
-    float number = 0;
-    float second = 0;
-    length_unit_e unit = LENGTH_UNIT_NONE;
-    hasMemoryForPatterns = false;
-    EXPECT_THROW(fgGetLength("10px", number, unit), std::bad_alloc);
-    EXPECT_THROW(fgGetDoubleLength("10px 20px", number, second, unit), std::bad_alloc);
-    hasMemoryForPatterns = true;
-    EXPECT_TRUE(fgGetLength("10px", number, unit));
-    EXPECT_TRUE(fgGetDoubleLength("10px 20px", number, second, unit));
-}
 
 constexpr char DOCUMENT[] =
     "<tt xmlns='http://www.w3.org/ns/ttml' xmlns:tts='http://www.w3.org/ns/ttml#styling' "

@@ -9,6 +9,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 FLOORS = ["runtime", "xmltree", "binding", "style", "parser", "api", "tools"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 PLAYER_HEADER = "api/x_ttml.h"
+OUTPUT = ("runtime/progress_lines.h", "runtime/progress_lines.cpp")
 
 
 def read_includes(root):
@@ -80,9 +81,18 @@ def guard_faults(root, files):
             yield f"{file} is not guarded by {guard}"
 
 
+def output_faults(root, files):
+    """Files of the library that write to standard output beside the one whose work it is."""
+    for file in files:
+        if file not in OUTPUT and floor_of(file) < floor_of("tools"):
+            if re.search(r"\bstd::(cout|puts|printf|putchar)\b|<iostream>", (root / file).read_text()):
+                yield f"{file} writes to standard output"
+
+
 def faults(root):
     files = read_includes(root)
-    return [*direction_faults(files), *cycle_faults(files), *xml_library_faults(files), *guard_faults(root, files)]
+    return [*direction_faults(files), *cycle_faults(files), *xml_library_faults(files), *guard_faults(root, files),
+            *output_faults(root, files)]
 
 
 class House(unittest.TestCase):
@@ -99,6 +109,7 @@ class House(unittest.TestCase):
             "cycle": {"style/c.h": guarded % ("STYLE_C", "STYLE_C", '#include "style/d.h"\n'),
                       "style/d.h": guarded % ("STYLE_D", "STYLE_D", '#include "style/c.h"\n')},
             "XML library": {"runtime/a.cpp": "#  include <xercesc/dom/DOM.hpp>\n"},
+            "writes to standard output": {"style/a.cpp": "#include <iostream>\n", "tools/b.cpp": "#include <iostream>\n"},
             "is not guarded": {"style/c.h": "#pragma once\n"},
         }
         for fault, sources in cases.items():

@@ -72,11 +72,19 @@ TEST_F(ImageSequence, CutsABlock) {
 TEST_F(ImageSequence, CutsNothingFromNoBlock) {
     EXPECT_EQ(CapturedOutput([&] { parser.vGeneratePNGBufferInfo(); }), "Invalid PNG Buffer\n");
     vHandOver(strPng(100) + strPng(100));
-    for (const int iSize : {0, -5}) {
-        parser.vSetDocumentBuffer(nullptr, 0);
-        parser.vSetDocumentBuffer("ignored", iSize);
+    const struct {
+        const char* buffer;
+        int iSize;
+        const char* table;
+    } cases[] = {
+        {"ignored", 0, "0+0 "}, {"ignored", -5, "0+-5 "},        {nullptr, -5, "0+-5 "},
+        {nullptr, 50, "0+50 "}, {nullptr, 150, "0+100 100+50 "}, {nullptr, 1000, "0+100 100+100 "},
+        {nullptr, 0, "0+0 "},
+    };
+    for (const auto& test : cases) {
+        parser.vSetDocumentBuffer(test.buffer, test.iSize);
         EXPECT_EQ(CapturedOutput([&] { parser.vGeneratePNGBufferInfo(); }), "");
-        EXPECT_EQ(strTable(), "0+" + std::to_string(iSize) + " ") << "the block is kept, its size is not";
+        EXPECT_EQ(strTable(), test.table) << "the block is kept, its size is not";
     }
 }
 
@@ -99,9 +107,11 @@ TEST_F(ImageSequence, ReadsTheIndexOfAReference) {
         {"x." + strPrefix, UINT32_MAX},
         {strPrefix.substr(1) + ".7", UINT32_MAX},
         {"", UINT32_MAX},
-        {strPrefix + std::string(1000, '9') + ".png", 2147483647},
-        {strPrefix + "4294967297.png", 2147483647},
-        {strPrefix + "-" + std::string(1000, '9') + ".png", 2147483648U},
+        {strPrefix + std::string(1000, '9') + ".png", UINT32_MAX},
+        {strPrefix + "2147483648.png", 2147483648U},
+        {strPrefix + "4294967297.png", 1},
+        {strPrefix + "-4294967295.png", 1},
+        {strPrefix + "-" + std::string(1000, '9') + ".png", 0},
     };
     for (const auto& test : cases)
         EXPECT_EQ(TtmlParser::uGetImageIndex(test.reference), test.uIndex) << test.reference;

@@ -1,6 +1,10 @@
 #include "tests/parser/loaded_parser.h"
 #include "tests/support/temporary_file.h"
 
+#include <iomanip>
+#include <locale>
+#include <sstream>
+
 namespace {
 
 using Lifecycle = LoadedParser;
@@ -107,6 +111,26 @@ TEST_F(Lifecycle, AnnouncesItsEndAndTheXmlLibrary) {
     EXPECT_EQ(CapturedOutput([&] { pOther.reset(); }), "destruct Parser\n");
     EXPECT_EQ(CapturedOutput([] { TtmlParser::vXercesInit(); }), "Initialize Xerces\n");
     EXPECT_EQ(CapturedOutput([] { TtmlParser::vXercesTerminate(); }), "Terminate Xerces\n");
+}
+
+TEST_F(Lifecycle, WritesTheSameLinesWhateverTheStateOfTheStream) {
+    struct Grouped : std::numpunct<char> {
+        std::string do_grouping() const override { return "\1"; }
+    };
+    const std::string strText =
+        strDocument("", "<body><div><p begin='1s' end='20s' tts:fontSize='12px'/></div></body>");
+    std::ostringstream redirected;
+    std::ios before(nullptr);
+    before.copyfmt(std::cout);
+    std::streambuf* const pBefore = std::cout.rdbuf(redirected.rdbuf());
+    std::cout.imbue(std::locale(std::locale::classic(), new Grouped));
+    std::cout << std::hex << std::showbase << std::setfill('*') << std::setw(40);
+    parser.fgLoadDocument(strText.data(), static_cast<unsigned>(strText.size()));
+    parser.vGenerateTextDisplaySequence(0);
+    std::cout.rdbuf(pBefore);
+    std::cout.copyfmt(before);
+    EXPECT_EQ(redirected.str(), "load from file ok\nvGenerateTextDisplaySequence called!\n12\n"
+                                "document start time 1000\ndocument end time 20000\nINVALID\n");
 }
 
 TEST(LifecycleWithoutXmlLibrary, ALoadFromMemoryFails) {

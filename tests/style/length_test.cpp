@@ -6,12 +6,17 @@
 
 #include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <random>
+#include <string_view>
+
+#include <regex.h>
 
 namespace {
 
 struct LengthCase {
-    const char* text;
+    std::string_view text;
     float fValue;
     length_unit_e eUnit;
     const char* output;
@@ -33,6 +38,8 @@ constexpr LengthCase lengthCases[] = {
     {"24pt", 0, LENGTH_UNIT_NONE, ""},
     {"24px ", 0, LENGTH_UNIT_NONE, ""},
     {"24px\n", 0, LENGTH_UNIT_NONE, ""},
+    {{"24px\0", 5}, 0, LENGTH_UNIT_NONE, ""},
+    {{"24\0px", 5}, 0, LENGTH_UNIT_NONE, ""},
     {"px", 0, LENGTH_UNIT_NONE, ""},
     {"24", 0, LENGTH_UNIT_NONE, ""},
     {"", 0, LENGTH_UNIT_NONE, ""},
@@ -44,7 +51,8 @@ TEST(Length, ReadsOneLengthAndWritesItsNumber) {
         float fValue = -1;
         length_unit_e eUnit = LENGTH_UNIT_EM;
         bool fgRead = false;
-        const std::string strOutput = CapturedOutput([&] { fgRead = fgGetLength(test.text, fValue, eUnit); });
+        const std::string strOutput =
+            CapturedOutput([&] { fgRead = fgGetLength(std::string(test.text), fValue, eUnit); });
         EXPECT_EQ(fgRead, test.eUnit != LENGTH_UNIT_NONE);
         EXPECT_EQ(fValue, test.fValue);
         EXPECT_EQ(eUnit, test.eUnit);
@@ -53,7 +61,7 @@ TEST(Length, ReadsOneLengthAndWritesItsNumber) {
 }
 
 struct PairCase {
-    const char* text;
+    std::string_view text;
     float fFirst;
     float fSecond;
     length_unit_e eUnit;
@@ -69,6 +77,8 @@ constexpr PairCase pairCases[] = {
     {"50% 640px", 0, 0, LENGTH_UNIT_NONE},
     {"640px", 0, 0, LENGTH_UNIT_NONE},
     {"640px480px", 0, 0, LENGTH_UNIT_NONE},
+    {{"1px\0002px", 7}, 0, 0, LENGTH_UNIT_NONE},
+    {{"1px 2px\0", 8}, 0, 0, LENGTH_UNIT_NONE},
     {"1em 2em", 0, 0, LENGTH_UNIT_NONE},
     {"auto", 0, 0, LENGTH_UNIT_NONE},
     {" 1px 2px", 0, 0, LENGTH_UNIT_NONE},
@@ -82,8 +92,8 @@ TEST(Length, ReadsAPairSilently) {
         float fSecond = -1;
         length_unit_e eUnit = LENGTH_UNIT_EM;
         bool fgRead = false;
-        const std::string strOutput =
-            CapturedOutput([&] { fgRead = fgGetDoubleLength(test.text, fFirst, fSecond, eUnit); });
+        const std::string strOutput = CapturedOutput(
+            [&] { fgRead = fgGetDoubleLength(std::string(test.text), fFirst, fSecond, eUnit); });
         EXPECT_EQ(fgRead, test.eUnit != LENGTH_UNIT_NONE);
         EXPECT_EQ(fFirst, test.fFirst);
         EXPECT_EQ(fSecond, test.fSecond);
@@ -92,7 +102,86 @@ TEST(Length, ReadsAPairSilently) {
     }
 }
 
+/// The grammar of lengths as POSIX reads it.
+class Pattern {
+public:
+    explicit Pattern(const char* pattern) { regcomp(&expression, pattern, REG_EXTENDED | REG_NOSUB); }
+    ~Pattern() { regfree(&expression); }
+    Pattern(const Pattern&) = delete;
+    Pattern& operator=(const Pattern&) = delete;
+    bool fgMatches(const std::string& strText) const {
+        return regexec(&expression, strText.c_str(), 0, nullptr, 0) == 0;
+    }
+
+private:
+    regex_t expression;
+};
+
+/// Tells whether both readers take a text for what the patterns say.
+class Comparison {
+public:
+    Comparison() : pOutput(std::cout.rdbuf(nullptr)) {}
+    ~Comparison() { std::cout.rdbuf(pOutput); }
+    Comparison(const Comparison&) = delete;
+    Comparison& operator=(const Comparison&) = delete;
+
+    bool fgAgrees(const std::string& strText) const {
+        float fFirst = 0;
+        float fSecond = 0;
+        length_unit_e eUnit = LENGTH_UNIT_NONE;
+        const bool fgRead = fgGetLength(strText, fFirst, eUnit);
+        const bool fgNumber = fFirst == static_cast<float>(fgRead ? std::atof(strText.c_str()) : 0);
+        const bool fgPair = fgGetDoubleLength(strText, fFirst, fSecond, eUnit);
+        return fgNumber && fgRead == length.fgMatches(strText) &&
+               (fgPair && eUnit == LENGTH_UNIT_PX) == pixels.fgMatches(strText) &&
+               (fgPair && eUnit == LENGTH_UNIT_PERCENT) == percent.fgMatches(strText);
+    }
+
+private:
+    std::streambuf* pOutput;
+    Pattern length{"^[0-9]+(\\.[0-9]+)?(px|%|c|em)$"};
+    Pattern pixels{"^[0-9]+(\\.[0-9]+)?px\\s[0-9]+(\\.[0-9]+)?px$"};
+    Pattern percent{"^[0-9]+(\\.[0-9]+)?%\\s[0-9]+(\\.[0-9]+)?%$"};
+};
+
+TEST(Length, AcceptsWhatThePatternsAccept) {
+    constexpr std::string_view characters = "05.px%cem \ta";
+    constexpr std::size_t uLongest = 6;
+    const Comparison comparison;
+    std::vector<std::string> vecDisagreed;
+    const auto vCompare = [&](const std::string& strText) {
+        if (!comparison.fgAgrees(strText))
+            vecDisagreed.push_back(strText);
+    };
+    std::vector<std::string> vecShorter = {""};
+    for (std::size_t i = 0; i < vecShorter.size(); ++i) {
+        for (const char character : characters) {
+            const std::string strText = vecShorter[i] + character;
+            vCompare(strText);
+            if (strText.size() < uLongest)
+                vecShorter.push_back(strText);
+        }
+    }
+    for (int i = 1; i < 256; ++i)
+        vCompare(std::string("1px") + static_cast<char>(i) + "2px");
+    constexpr const char* parts[] = {"0", "15", ".", ".5", "px", "px", "%", "%",
+                                     "c", "em", " ", " ",  "\n", "\v", "x"};
+    std::mt19937 random(1);
+    for (int i = 0; i < 200000; ++i) {
+        std::string strText;
+        for (unsigned uParts = random() % 8; uParts > 0; --uParts)
+            strText += parts[random() % std::size(parts)];
+        vCompare(strText);
+    }
+    EXPECT_EQ(vecDisagreed, std::vector<std::string>());
+}
+
 TEST(Length, ReadsNumbersLikeAtof) {
+    constexpr float fLargest = std::numeric_limits<float>::max();
+    EXPECT_EQ(fStr2Float("3.4028235e38"), fLargest);
+    EXPECT_EQ(fStr2Float("-3.40282356e38"), -fLargest);
+    EXPECT_TRUE(std::isinf(fStr2Float("3.40282357e38")));
+    EXPECT_TRUE(std::isnan(fStr2Float("nan")));
     EXPECT_EQ(fStr2Float(" \n-2.5e1x"), -25.0F);
     EXPECT_EQ(fStr2Float("none"), 0.0F);
     EXPECT_EQ(fStr2Float(""), 0.0F);
@@ -106,6 +195,15 @@ TEST(Length, IgnoresTheLocaleOfTheProcess) {
         GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed";
     EXPECT_EQ(fStr2Float("1.5"), 1.5F);
     std::setlocale(LC_NUMERIC, "C");
+}
+
+TEST(Length, SeparatesByWhiteSpaceOfTheCLocale) {
+    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
+    float fFirst = 0;
+    float fSecond = 0;
+    length_unit_e eUnit = LENGTH_UNIT_NONE;
+    EXPECT_FALSE(fgGetDoubleLength("1px\u20032px", fFirst, fSecond, eUnit)) << "an em space";
+    std::setlocale(LC_CTYPE, "C");
 }
 
 TEST(Length, WholePixelsAreTruncatedAndClamped) {

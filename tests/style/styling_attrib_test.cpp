@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 TEST(StylingAttrib, StartsWithTheDefaults) {
@@ -32,6 +34,20 @@ TEST(StylingAttrib, CopiesReservedFieldsAndFlagsAndSharesNothing) {
     EXPECT_TRUE(copy.fgReserved2 && copy.fgColorSet);
     EXPECT_EQ(source.strColor, "#FFFFFFFF");
     EXPECT_EQ(source.aReservedPairs[3].uSecond, 7U);
+}
+
+TEST(StylingAttrib, AMoveIsACopy) {
+    StylingAttribGroup source;
+    source.strId = "an identifier that is long enough for the heap";
+    source.attrib.strColor = "a colour that is long enough for the heap";
+    const StylingAttribGroup same = source;
+    StylingAttribGroup moved = std::move(source);
+    moved = std::move(source);
+    moved = static_cast<const StylingAttribGroup&>(moved);
+    for (const StylingAttribGroup& group : {source, moved}) {
+        EXPECT_EQ(group.strId, same.strId);
+        EXPECT_EQ(group.attrib.strColor, same.attrib.strColor);
+    }
 }
 
 TEST(StylingAttrib, ConvertsKeywords) {
