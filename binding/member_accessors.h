@@ -24,44 +24,23 @@ namespace ttaf1_dfxp {
 template <class T>
 using MemberCast = T (*)(const xercesc::DOMNode*, const tessera::MemberInfo&);
 
-/// How the value of an attribute is converted to a T; null for a type that no attribute is read as.
+/// The conversions to every type that an attribute is read as, one for each.
+inline constexpr auto MEMBER_CASTS = std::make_tuple(
+    XercesTreeOperations::CastToString, XercesTreeOperations::CastToBool, XercesTreeOperations::CastToInt,
+    XercesTreeOperations::CastToUInt, XercesTreeOperations::CastToInt64, XercesTreeOperations::CastToUInt64,
+    XercesTreeOperations::CastToDouble, XercesTreeOperations::CastToDateTime,
+    XercesTreeOperations::CastToDuration, XercesTreeOperations::CastToBinary,
+    XercesTreeOperations::CastToQName);
+
+/// The one to a T; any other type does not compile.
 template <class T>
-inline constexpr MemberCast<T> CAST_TO = nullptr;
-/// @cond
-template <>
-inline constexpr MemberCast<std::string> CAST_TO<std::string> = XercesTreeOperations::CastToString;
-template <>
-inline constexpr MemberCast<bool> CAST_TO<bool> = XercesTreeOperations::CastToBool;
-template <>
-inline constexpr MemberCast<int> CAST_TO<int> = XercesTreeOperations::CastToInt;
-template <>
-inline constexpr MemberCast<unsigned int> CAST_TO<unsigned int> = XercesTreeOperations::CastToUInt;
-template <>
-inline constexpr MemberCast<long long> CAST_TO<long long> = XercesTreeOperations::CastToInt64;
-template <>
-inline constexpr MemberCast<unsigned long long> CAST_TO<unsigned long long> =
-    XercesTreeOperations::CastToUInt64;
-template <>
-inline constexpr MemberCast<double> CAST_TO<double> = XercesTreeOperations::CastToDouble;
-template <>
-inline constexpr MemberCast<tessera::DateTime> CAST_TO<tessera::DateTime> =
-    XercesTreeOperations::CastToDateTime;
-template <>
-inline constexpr MemberCast<tessera::Duration> CAST_TO<tessera::Duration> =
-    XercesTreeOperations::CastToDuration;
-template <>
-inline constexpr MemberCast<std::vector<unsigned char>> CAST_TO<std::vector<unsigned char>> =
-    XercesTreeOperations::CastToBinary;
-template <>
-inline constexpr MemberCast<tessera::QName> CAST_TO<tessera::QName> = XercesTreeOperations::CastToQName;
-/// @endcond
+inline constexpr MemberCast<T> CAST_TO = std::get<MemberCast<T>>(MEMBER_CASTS);
 
 /// An attribute, read as a T. It is found by namespace and local name: one of the same name in another
 /// namespace, or in none, is not this one.
 template <class T, std::uint32_t member, std::uint32_t enumFirst = 0, std::uint32_t enumCount = 0>
 class MemberAttribute {
     static_assert(member < MEMBER_COUNT);
-    static_assert(CAST_TO<T> != nullptr);
 
 public:
     using Value = T; ///< what the attribute is read as

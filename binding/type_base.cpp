@@ -53,9 +53,7 @@ std::uint32_t TypeBase::CountElement(const MemberInfo& member) const {
 }
 
 void TypeBase::RemoveElement(const MemberInfo& member) {
-    if (node_) {
-        XercesTreeOperations::RemoveElements(node_, member);
-    }
+    XercesTreeOperations::RemoveElements(node_, member);
 }
 
 std::string TypeBase::GetEnumerationValue(std::int32_t index, std::uint32_t first, std::uint32_t count) {
@@ -83,19 +81,12 @@ std::string TypeBase::GetText(const MemberInfo& textMember) const {
 }
 
 void TypeBase::SetText(const MemberInfo& textMember, const std::string& text) {
-    XercesTreeOperations::SetValue(NodeToEdit(), textMember, text);
+    XercesTreeOperations::SetValue(node_, textMember, text);
 }
 
 void TypeBase::WriteXsiType(const tessera::TypeInfo& type) {
-    XercesTreeOperations::SetAttribute(NodeToEdit(), "xsi:type", XML_SCHEMA_INSTANCE_NAMESPACE,
-                                       type.localName, namespaces[type.namespaceIndex].namespaceURI);
-}
-
-DOMNode* TypeBase::NodeToEdit() const {
-    if (!node_) {
-        throw tessera::InvalidOperationException("Cannot edit a non-existent node.");
-    }
-    return node_;
+    XercesTreeOperations::SetAttribute(node_, "xsi:type", XML_SCHEMA_INSTANCE_NAMESPACE, type.localName,
+                                       namespaces[type.namespaceIndex].namespaceURI);
 }
 
 } // namespace ttaf1_dfxp

@@ -13,7 +13,8 @@
 namespace ttaf1_dfxp {
 
 /// A typed view of one DOM node. It is a value: a copy views the same node. The document owns the node and
-/// must outlive the wrapper. A wrapper without a node has no attributes, no child elements and no text.
+/// must outlive the wrapper. A wrapper without a node has no attributes, no child elements and no text; an
+/// edit of it throws tessera::InvalidOperationException.
 ///
 /// A member argument is a record of the member table. Child elements match a member by local name alone, in
 /// whatever namespace they are.
@@ -49,15 +50,13 @@ protected:
 
     /// The text inside the node; empty without a node.
     std::string GetText(const tessera::MemberInfo& textMember) const;
-    /// Replaces everything inside the node. Throws tessera::InvalidOperationException without a node.
+    /// Replaces everything inside the node.
     void SetText(const tessera::MemberInfo& textMember, const std::string& text);
     /// Sets xsi:type (XML Schema Part 1, 2.6.1) to the name of `type`, declaring prefixes as needed. Throws
-    /// tessera::InvalidOperationException without a node, xercesc::DOMException when it is no element.
+    /// xercesc::DOMException when the node is no element.
     void WriteXsiType(const tessera::TypeInfo& type);
 
 private:
-    xercesc::DOMNode* NodeToEdit() const;
-
     xercesc::DOMNode* node_;
 };
 

@@ -19,6 +19,7 @@ using xercesc::XMLString;
 
 namespace {
 
+constexpr char XML_PREFIX[] = "xml";
 constexpr char XMLNS_PREFIX[] = "xmlns";
 
 bool IsElement(const DOMNode* node) {
@@ -27,6 +28,20 @@ bool IsElement(const DOMNode* node) {
 
 const DOMNode* FindDeclaration(const DOMNode* element, const char* prefix) {
     return XercesTreeOperations::FindAttribute(element, XMLNS_NAMESPACE, prefix);
+}
+
+/// Visits the attributes of a node, if it has any.
+template <class Visit>
+void ForEachAttribute(const DOMNode* node, Visit&& visit) {
+    const DOMNamedNodeMap* attributes = node->getAttributes();
+    const XMLSize_t count = attributes ? attributes->getLength() : 0;
+    for (XMLSize_t i = 0; i < count; ++i) {
+        visit(attributes->item(i));
+    }
+}
+
+bool IsPrefixDeclaration(const DOMNode* attribute) {
+    return XercesTreeOperations::IsEqualString(attribute->getPrefix(), XMLNS_PREFIX);
 }
 
 /// The element that carries an attribute; any other node itself.
@@ -70,13 +85,11 @@ public:
     explicit BoundDeclarations(const std::string& sought) : namespaceURI(sought) {}
 
     void Enter(const DOMNode* element) {
-        const DOMNamedNodeMap* attributes = element->getAttributes();
-        for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
-            const DOMNode* attribute = attributes->item(i);
-            if (XercesTreeOperations::IsEqualString(attribute->getPrefix(), XMLNS_PREFIX)) {
+        ForEachAttribute(element, [this](const DOMNode* attribute) {
+            if (IsPrefixDeclaration(attribute)) {
                 Take(attribute);
             }
-        }
+        });
     }
 
     std::string OutermostPrefix() const {
@@ -85,7 +98,7 @@ public:
 
 private:
     void Take(const DOMNode* declaration) {
-        if (XercesTreeOperations::IsEqualString(declaration->getNodeValue(), namespaceURI.c_str())) {
+        if (IsTranscoded(declaration->getNodeValue(), namespaceURI.c_str())) {
             declarations.push_back(declaration);
             return;
         }
@@ -115,32 +128,59 @@ private:
     unsigned int number = 0;
 };
 
-bool IsDeclaredInScope(const DOMNode* node, const std::string& prefix) {
-    while (IsElement(node) && !FindDeclaration(node, prefix.c_str())) {
-        node = node->getParentNode();
-    }
-    return IsElement(node);
+/// What becomes of a prefix when it is to stand for a namespace; the greater one prevails.
+enum class Standing { FREE, BOUND, TAKEN };
+
+/// The standing of a prefix by one element alone. A name counts like a declaration: it keeps its namespace
+/// whatever is declared, and the serialiser declares what is missing.
+Standing StandingOn(const DOMNode* element, const std::string& prefix, const std::string& namespaceURI) {
+    Standing standing = Standing::FREE;
+    const auto take = [&](const XMLCh* used, const XMLCh* boundTo) {
+        if (IsTranscoded(used, prefix.c_str())) {
+            const bool isSame = IsTranscoded(boundTo, namespaceURI.c_str());
+            standing = std::max(standing, isSame ? Standing::BOUND : Standing::TAKEN);
+        }
+    };
+    take(element->getPrefix(), element->getNamespaceURI());
+    ForEachAttribute(element, [&take](const DOMNode* attribute) {
+        take(attribute->getPrefix(), attribute->getNamespaceURI());
+        if (IsPrefixDeclaration(attribute)) {
+            take(attribute->getLocalName(), attribute->getNodeValue());
+        }
+    });
+    return standing;
 }
 
-/// Whether an attribute of the element has the prefix for another namespace, declared or not.
-bool IsUsedForAnother(const DOMNode* element, const std::string& prefix, const std::string& namespaceURI) {
-    const DOMNamedNodeMap* attributes = element->getAttributes();
-    const XMLSize_t count = attributes ? attributes->getLength() : 0;
-    for (XMLSize_t i = 0; i < count; ++i) {
-        const DOMNode* attribute = attributes->item(i);
-        if (XercesTreeOperations::IsEqualString(attribute->getPrefix(), prefix.c_str()) &&
-            !XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI.c_str())) {
-            return true;
-        }
+/// The standing of a prefix by the nearest element that uses it.
+Standing StandingAt(const DOMNode* node, const std::string& prefix, const std::string& namespaceURI) {
+    if (prefix == XML_PREFIX || prefix == XMLNS_PREFIX) {
+        const bool isOwn = namespaceURI == (prefix == XML_PREFIX ? XML_NAMESPACE : XMLNS_NAMESPACE);
+        return isOwn ? Standing::BOUND : Standing::TAKEN;
     }
-    return false;
+    Standing standing = Standing::FREE;
+    for (; node && standing == Standing::FREE; node = node->getParentNode()) {
+        standing = IsElement(node) ? StandingOn(node, prefix, namespaceURI) : Standing::FREE;
+    }
+    return standing;
+}
+
+/// The declaration of a prefix that has come out of the document, so that it is compared as it was narrowed.
+const DOMNode* FindNarrowedDeclaration(const DOMNode* element, const std::string& prefix) {
+    const DOMNode* found = nullptr;
+    ForEachAttribute(element, [&](const DOMNode* attribute) {
+        if (XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), XMLNS_NAMESPACE) &&
+            XercesTreeOperations::IsEqualString(attribute->getLocalName(), prefix.c_str())) {
+            found = attribute;
+        }
+    });
+    return found;
 }
 
 } // namespace
 
 std::string FindPrefixForNamespace(const DOMNode* node, const std::string& namespaceURI) {
     if (namespaceURI == XML_NAMESPACE) {
-        return "xml";
+        return XML_PREFIX;
     }
     if (namespaceURI == XMLNS_NAMESPACE) {
         return XMLNS_PREFIX;
@@ -164,10 +204,16 @@ std::string GetUnusedPrefix(const DOMNode* node, const std::string& base) {
     return node ? candidates.Current() : std::string();
 }
 
+std::string FindUsablePrefix(const DOMNode* node, const std::string& namespaceURI) {
+    const std::string prefix = FindPrefixForNamespace(node, namespaceURI);
+    const bool isUsable = !prefix.empty() && StandingAt(node, prefix, namespaceURI) == Standing::BOUND;
+    return isUsable ? prefix : std::string();
+}
+
 std::string GetFreshPrefix(const DOMNode* node, const std::string& base, const std::string& namespaceURI) {
-    CandidatePrefixes candidates(base);
-    while (IsDeclaredInScope(node, candidates.Current()) ||
-           IsUsedForAnother(node, candidates.Current(), namespaceURI)) {
+    const bool isReserved = base == XML_PREFIX || base == XMLNS_PREFIX;
+    CandidatePrefixes candidates(isReserved ? std::string() : base);
+    while (StandingAt(node, candidates.Current(), namespaceURI) == Standing::TAKEN) {
         candidates.Next();
     }
     return candidates.Current();
@@ -175,7 +221,7 @@ std::string GetFreshPrefix(const DOMNode* node, const std::string& base, const s
 
 std::string FindNamespaceForPrefix(const DOMNode* node, const std::string& prefix) {
     for (node = CarrierOf(node); IsElement(node); node = node->getParentNode()) {
-        if (const DOMNode* declaration = FindDeclaration(node, prefix.c_str())) {
+        if (const DOMNode* declaration = FindNarrowedDeclaration(node, prefix)) {
             return XercesTreeOperations::GetTextValue(declaration);
         }
     }

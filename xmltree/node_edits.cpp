@@ -15,6 +15,9 @@
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include <utility>
+#include <vector>
+
 using tessera::MemberInfo;
 using tessera::QName;
 using xercesc::DOMAttr;
@@ -32,8 +35,15 @@ DOMException Refusal() {
     return DOMException(DOMException::HIERARCHY_REQUEST_ERR, 0, XMLPlatformUtils::fgMemoryManager);
 }
 
+DOMNode& NodeToEdit(DOMNode* node) {
+    if (!node) {
+        throw tessera::InvalidOperationException("Cannot edit a non-existent node.");
+    }
+    return *node;
+}
+
 DOMDocument& DocumentOf(DOMNode* node) {
-    if (node->getNodeType() == DOMNode::DOCUMENT_NODE) {
+    if (NodeToEdit(node).getNodeType() == DOMNode::DOCUMENT_NODE) {
         return static_cast<DOMDocument&>(*node);
     }
     DOMDocument* owner = node->getOwnerDocument();
@@ -44,7 +54,7 @@ DOMDocument& DocumentOf(DOMNode* node) {
 }
 
 DOMElement& ElementOf(DOMNode* node) {
-    if (node->getNodeType() != DOMNode::ELEMENT_NODE) {
+    if (NodeToEdit(node).getNodeType() != DOMNode::ELEMENT_NODE) {
         throw Refusal();
     }
     return static_cast<DOMElement&>(*node);
@@ -72,38 +82,63 @@ void ReleaseTree(DOMNode* top) {
     top->release();
 }
 
+// A document has no text: it is refused before it has lost its content.
 void ReplaceContent(DOMNode* node, const XMLCh* text) {
+    DOMDocument& document = DocumentOf(node);
+    if (node == &document) {
+        throw Refusal();
+    }
     while (DOMNode* child = node->getFirstChild()) {
         ReleaseTree(node->removeChild(child));
     }
-    node->appendChild(DocumentOf(node).createTextNode(text));
+    node->appendChild(document.createTextNode(text));
 }
 
-void DeclarePrefix(DOMNode* node, const std::string& prefix, const std::string& namespaceURI) {
-    ElementOf(node).setAttributeNS(XercesStringTemp(XMLNS_NAMESPACE), XercesStringTemp("xmlns:" + prefix),
-                                   XercesStringTemp(namespaceURI));
+/// What DOMDocument::importNode makes of a node and all inside it; that calls itself for every level. The
+/// inside of an entity reference is not copied: it is what the entity is in the document that it comes to.
+DOMNode* ImportTree(DOMDocument& document, const DOMNode* top) {
+    DOMNode* const topCopy = document.importNode(top, false);
+    std::vector<std::pair<const DOMNode*, DOMNode*>> open = {{top, topCopy}};
+    while (!open.empty()) {
+        const auto [node, copy] = open.back();
+        open.pop_back();
+        const bool isElement = node->getNodeType() == DOMNode::ELEMENT_NODE;
+        for (const DOMNode* child = isElement ? node->getFirstChild() : nullptr; child;
+             child = child->getNextSibling()) {
+            open.emplace_back(child, copy->appendChild(document.importNode(child, false)));
+        }
+    }
+    return topCopy;
+}
+
+void DeclarePrefix(DOMElement& element, const std::string& prefix, const std::string& namespaceURI) {
+    element.setAttributeNS(XercesStringTemp(XMLNS_NAMESPACE), XercesStringTemp("xmlns:" + prefix),
+                           XercesStringTemp(namespaceURI));
 }
 
 /// The name of an element or attribute under the prefix in scope for its namespace, if there is one.
 QName NameInScope(const DOMNode* node, const MemberInfo& member) {
     QName name(member.namespaceURI, {}, member.localName);
     if (!name.uri.empty()) {
-        name.prefix = FindPrefixForNamespace(node, name.uri);
+        name.prefix = FindUsablePrefix(node, name.uri);
     }
     return name;
 }
 
-/// The text of a qualified name under the prefix in scope for its namespace, or under a fresh one made from
-/// its own, declared on the element.
-std::string BoundName(DOMNode* node, const QName& name) {
-    if (name.uri.empty()) {
-        return name.localName;
-    }
-    std::string prefix = FindPrefixForNamespace(node, name.uri);
+/// The prefix in scope for the namespace of a name, or a fresh one made from its own, declared on the
+/// element.
+std::string BoundPrefix(DOMElement& element, const QName& name) {
+    std::string prefix = FindUsablePrefix(&element, name.uri);
     if (prefix.empty()) {
-        prefix = GetFreshPrefix(node, name.prefix, name.uri);
-        DeclarePrefix(node, prefix, name.uri);
+        prefix = GetFreshPrefix(&element, name.prefix, name.uri);
+        DeclarePrefix(element, prefix, name.uri);
     }
+    return prefix;
+}
+
+/// The text of a qualified name under such a prefix.
+std::string BoundName(DOMElement& element, const QName& name) {
+    const std::string prefix = name.uri.empty() ? std::string() : BoundPrefix(element, name);
     return QName(name.uri, prefix, name.localName).ToString();
 }
 
@@ -142,7 +177,7 @@ DOMElement* XercesTreeOperations::AddElement(DOMNode* node, const MemberInfo& me
 }
 
 void XercesTreeOperations::RemoveElements(DOMNode* node, const MemberInfo& member) {
-    MemberIterator matches = GetElements(node, member);
+    MemberIterator matches = GetElements(&NodeToEdit(node), member);
     while (DOMNode* match = matches.CurrentNode()) {
         ++matches;
         node->removeChild(match);
@@ -150,7 +185,7 @@ void XercesTreeOperations::RemoveElements(DOMNode* node, const MemberInfo& membe
 }
 
 void XercesTreeOperations::RemoveElement(DOMNode* node, const MemberInfo& member, std::uint32_t index) {
-    MemberIterator matches = GetElements(node, member);
+    MemberIterator matches = GetElements(&NodeToEdit(node), member);
     while (index > 0 && matches.CurrentNode()) {
         ++matches;
         --index;
@@ -163,7 +198,7 @@ void XercesTreeOperations::RemoveElement(DOMNode* node, const MemberInfo& member
 void XercesTreeOperations::RemoveAttribute(DOMNode* node, const MemberInfo& member) {
     if (IsTextContent(member)) {
         RemoveElements(node, member);
-    } else if (node->hasAttributes()) {
+    } else if (NodeToEdit(node).hasAttributes()) {
         node->getAttributes()->removeNamedItemNS(XercesStringTemp(member.namespaceURI),
                                                  XercesStringTemp(member.localName));
     }
@@ -172,13 +207,13 @@ void XercesTreeOperations::RemoveAttribute(DOMNode* node, const MemberInfo& memb
 void XercesTreeOperations::CopyAll(const DOMNode* source, DOMNode* target) {
     DOMDocument& document = DocumentOf(target);
     // A node copied into itself grows behind its last child.
-    const DOMNode* last = source->getLastChild();
-    const DOMNode* child = source->getFirstChild();
+    const DOMNode* last = source ? source->getLastChild() : nullptr;
+    const DOMNode* child = last ? source->getFirstChild() : nullptr;
     while (child) {
-        target->appendChild(document.importNode(child, true));
+        target->appendChild(ImportTree(document, child));
         child = child == last ? nullptr : child->getNextSibling();
     }
-    const DOMNamedNodeMap* attributes = source->getAttributes();
+    const DOMNamedNodeMap* attributes = source ? source->getAttributes() : nullptr;
     const XMLSize_t count = attributes ? attributes->getLength() : 0;
     for (XMLSize_t i = 0; i < count; ++i) {
         DOMNode* copy = document.importNode(attributes->item(i), true);
@@ -188,12 +223,12 @@ void XercesTreeOperations::CopyAll(const DOMNode* source, DOMNode* target) {
 
 void XercesTreeOperations::AddProcessingInstruction(DOMNode* node, const std::string& target,
                                                     const std::string& data) {
-    node->appendChild(
-        DocumentOf(node).createProcessingInstruction(XercesStringTemp(target), XercesStringTemp(data)));
+    DOMDocument& document = DocumentOf(node);
+    node->appendChild(document.createProcessingInstruction(XercesStringTemp(target), XercesStringTemp(data)));
 }
 
 void XercesTreeOperations::SetValue(DOMNode* node, const std::string& value) {
-    node->setNodeValue(XercesStringTemp(value));
+    NodeToEdit(node).setNodeValue(XercesStringTemp(value));
 }
 
 void XercesTreeOperations::SetTextValue(DOMNode* node, const std::string& value) {
@@ -206,6 +241,7 @@ void XercesTreeOperations::SetValue(DOMNode* node, const MemberInfo& member, con
         ReplaceContent(node, text);
         return;
     }
+    DOMElement& element = ElementOf(node);
     QName name = NameInScope(node, member);
     if (name.prefix.empty() && !name.uri.empty()) {
         name.prefix = GetFreshPrefix(node, {}, name.uri);
@@ -213,7 +249,7 @@ void XercesTreeOperations::SetValue(DOMNode* node, const MemberInfo& member, con
     DOMAttr* attribute =
         DocumentOf(node).createAttributeNS(XercesStringTemp(name.uri), XercesStringTemp(name.ToString()));
     attribute->setValue(text);
-    ElementOf(node).getAttributes()->setNamedItemNS(attribute);
+    element.getAttributes()->setNamedItemNS(attribute);
 }
 
 void XercesTreeOperations::SetValue(DOMNode* node, const MemberInfo& member, const std::string& value) {
@@ -225,29 +261,23 @@ void XercesTreeOperations::SetValue(DOMNode* node, const MemberInfo& member, con
 }
 
 void XercesTreeOperations::SetValue(DOMNode* node, const MemberInfo& member, const QName& value) {
-    SetValue(node, member, BoundName(node, value));
+    SetValue(node, member, BoundName(ElementOf(node), value));
 }
 
 void XercesTreeOperations::SetAttribute(DOMNode* node, const std::string& name,
                                         const std::string& namespaceURI, const std::string& value) {
+    DOMElement& element = ElementOf(node);
     QName qualified(namespaceURI, name);
     if (!namespaceURI.empty() && name != "xmlns") {
-        const std::string inScope = FindPrefixForNamespace(node, namespaceURI);
-        if (!inScope.empty()) {
-            qualified.prefix = inScope;
-        } else {
-            if (qualified.prefix.empty()) {
-                qualified.prefix = GetFreshPrefix(node, {}, namespaceURI);
-            }
-            DeclarePrefix(node, qualified.prefix, namespaceURI);
-        }
+        qualified.prefix = BoundPrefix(element, qualified);
     }
-    ElementOf(node).setAttributeNS(XercesStringTemp(namespaceURI), XercesStringTemp(qualified.ToString()),
-                                   XercesStringTemp(value));
+    element.setAttributeNS(XercesStringTemp(namespaceURI), XercesStringTemp(qualified.ToString()),
+                           XercesStringTemp(value));
 }
 
 void XercesTreeOperations::SetAttribute(DOMNode* node, const std::string& name,
                                         const std::string& namespaceURI, const std::string& valueLocalName,
                                         const std::string& valueNamespace) {
-    SetAttribute(node, name, namespaceURI, BoundName(node, QName(valueNamespace, {}, valueLocalName)));
+    const QName qualified(valueNamespace, {}, valueLocalName);
+    SetAttribute(node, name, namespaceURI, BoundName(ElementOf(node), qualified));
 }

@@ -12,9 +12,14 @@ namespace {
 
 bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* localName) {
     const XMLCh* name = attribute->getLocalName();
-    return (XercesTreeOperations::IsEqualString(name, localName) ||
-            (!name && XercesTreeOperations::IsEqualString(attribute->getNodeName(), localName))) &&
-           XercesTreeOperations::IsEqualString(attribute->getNamespaceURI(), namespaceURI);
+    return (IsTranscoded(name, localName) || (!name && IsTranscoded(attribute->getNodeName(), localName))) &&
+           IsTranscoded(attribute->getNamespaceURI(), namespaceURI);
+}
+
+/// Whether an attribute's local name, null for none, may be the one sought by its first character alone.
+bool MayBe(const XMLCh* name, const char* sought) {
+    const auto first = static_cast<unsigned char>(*sought);
+    return !name || *name == first || first > 0x7F;
 }
 
 /// The first attribute of a node that is accepted; null when there is none. Nodes are asked for attributes
@@ -117,8 +122,7 @@ void XercesTreeOperations::FindAttributes(const DOMNode* node, SoughtAttribute* 
         const XMLCh* name = attribute->getLocalName();
         for (SoughtAttribute* one = sought; one != sought + count; ++one) {
             const tessera::MemberInfo& member = *one->member;
-            const bool mayMatch =
-                !one->found && (!name || *name == static_cast<unsigned char>(*member.localName));
+            const bool mayMatch = !one->found && MayBe(name, member.localName);
             if (mayMatch && HasName(attribute, member.namespaceURI, member.localName)) {
                 one->found = attribute;
                 --missing;
@@ -130,7 +134,7 @@ void XercesTreeOperations::FindAttributes(const DOMNode* node, SoughtAttribute* 
 
 bool XercesTreeOperations::HasAttributeInNamespace(const DOMNode* node, const tessera::MemberInfo& member) {
     return FirstAttribute(node, [&member](const DOMNode* attribute) {
-        return IsEqualString(attribute->getNamespaceURI(), member.namespaceURI);
+        return IsTranscoded(attribute->getNamespaceURI(), member.namespaceURI);
     });
 }
 

@@ -29,6 +29,10 @@ XercesStringTemp::XercesStringTemp(const char* chars)
 
 XercesStringTemp::~XercesStringTemp() = default;
 
+bool IsTranscodedRest(const XMLCh* utf16, const char* chars) {
+    return XMLString::equals(utf16, XercesStringTemp(chars));
+}
+
 void XercesStringTemp::Release::operator()(XMLCh* transcoded) const {
     XMLString::release(&transcoded, XMLPlatformUtils::fgMemoryManager);
 }

@@ -40,6 +40,24 @@ private:
     std::unique_ptr<XMLCh, Release> rawTranscode;
 };
 
+/// Whether `utf16` is the transcoded rest of a name, `chars`, which begins with a character that is not
+/// ASCII.
+bool IsTranscodedRest(const XMLCh* utf16, const char* chars);
+
+/// Whether `utf16` is what XercesStringTemp makes of `chars`; null counts as the empty string. ASCII, which
+/// every code page has in common, is compared in place: names are compared many times, mostly in vain.
+inline bool IsTranscoded(const XMLCh* utf16, const char* chars) {
+    if (!utf16 || !chars) {
+        return (!utf16 || !*utf16) && (!chars || !*chars);
+    }
+    const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
+    while (*utf16 && isAscii(*chars) && *utf16 == static_cast<XMLCh>(*chars)) {
+        ++utf16;
+        ++chars;
+    }
+    return isAscii(*chars) ? !*utf16 && !*chars : IsTranscodedRest(utf16, chars);
+}
+
 /// The 8-bit copy of a 16-bit string: the low 8 bits of every code unit.
 class XercesUnstringTemp : public std::string {
 public:

@@ -3,7 +3,15 @@
 // Names and values are 8-bit strings on this side (xmltree/transcode.h). Nodes are never owned here: the
 // document owns its nodes and the caller owns the document, from the load or CreateDocument until
 // FreeDocument; nodes taken from it are invalid afterwards. A null node has no children, no attributes and
-// no text, and matches nothing; the edits need a node. The XML library must be initialised.
+// no text, and matches nothing. The XML library must be initialised.
+//
+// An edit of a null node throws tessera::InvalidOperationException. On a node of a type that has no such
+// children, attributes or value, a removal and SetValue(node, value) do nothing; every other edit throws
+// xercesc::DOMException (HIERARCHY_REQUEST_ERR, or NO_MODIFICATION_ALLOWED_ERR inside an entity reference).
+//
+// What an edit writes under a prefix loads again in the same namespace, and so does what was there before: a
+// prefix in scope is taken, and one that is given is kept, unless it stands for another namespace at the
+// element, by a declaration or by a name there or above. Then an unused one is made from it.
 //
 // Unless a function says otherwise it passes on what the XML library throws: xercesc::DOMException for a
 // refused edit, xercesc::OutOfMemoryException.
@@ -160,8 +168,8 @@ public:
     /// Removes the member's attribute, or, for the text content, every text and CDATA child. Does nothing on
     /// a node without attributes; xercesc::DOMException (NOT_FOUND_ERR) when it has only others.
     static void RemoveAttribute(xercesc::DOMNode* node, const tessera::MemberInfo& member);
-    /// Appends copies of the children of `source` to `target` and gives it copies of the attributes. They
-    /// may belong to different documents.
+    /// Appends copies of the children of `source` to `target`, as DOMDocument::importNode makes them, and
+    /// gives it copies of the attributes. They may belong to different documents.
     static void CopyAll(const xercesc::DOMNode* source, xercesc::DOMNode* target);
     /// Appends a processing instruction to an element or document.
     static void AddProcessingInstruction(xercesc::DOMNode* node, const std::string& target,
@@ -194,6 +202,12 @@ public:
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, long long value);
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, unsigned long long value);
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, double value);
+    static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, long value) {
+        SetValue(node, member, static_cast<long long>(value));
+    }
+    static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member, unsigned long value) {
+        SetValue(node, member, static_cast<unsigned long long>(value));
+    }
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member,
                          const tessera::DateTime& value);
     static void SetValue(xercesc::DOMNode* node, const tessera::MemberInfo& member,

@@ -1,8 +1,13 @@
+#include "runtime/exceptions.h"
 #include "runtime/qname.h"
 #include "tests/xmltree/sample_document.h"
+#include "xmltree/namespace_names.h"
 #include "xmltree/namespace_prefixes.h"
 
 #include <gtest/gtest.h>
+
+#include <clocale>
+#include <functional>
 
 namespace {
 
@@ -78,6 +83,123 @@ TEST(NamespacePrefixes, QualifiedNamesAreResolvedInScope) {
             EXPECT_EQ(name.localName, c.name.localName) << c.xml;
         }
     }
+}
+
+const tessera::MemberInfo A = Attribute("", "a");
+const tessera::MemberInfo S_A = Attribute("urn:s", "a");
+const tessera::MemberInfo O_B = Attribute("urn:o", "b");
+const std::string LATIN_1 = "<?xml version='1.0' encoding='ISO-8859-1'?>"; // what narrowed units are
+
+/// The elements inside a node and their attributes, named by namespace, as "{urn}name(attributes)[children]";
+/// in a value with a prefix the prefix is resolved.
+std::string Resolved(const xercesc::DOMNode* node) {
+    const auto name = [](const xercesc::DOMNode* named) {
+        const XercesUnstringTemp uri(named->getNamespaceURI());
+        return (uri.empty() ? "" : "{" + uri + "}") + XercesUnstringTemp(named->getLocalName());
+    };
+    std::vector<std::string> attributes;
+    for (XMLSize_t i = 0; i < node->getAttributes()->getLength(); ++i) {
+        const xercesc::DOMNode* attribute = node->getAttributes()->item(i);
+        const tessera::QName value = Tree::CastToQName(attribute, A);
+        const std::string uri = value.prefix.empty() ? "" : "{" + value.uri + "}";
+        if (XercesUnstringTemp(attribute->getNamespaceURI()) != XMLNS_NAMESPACE) {
+            attributes.push_back(" " + name(attribute) + "=" + uri + value.localName);
+        }
+    }
+    std::sort(attributes.begin(), attributes.end());
+    std::string text = name(node);
+    for (const std::string& attribute : attributes) {
+        text += attribute;
+    }
+    for (auto child = Tree::GetElements(node); child.CurrentNode(); ++child) {
+        text += "[" + Resolved(child.CurrentNode()) + "]";
+    }
+    return text;
+}
+
+TEST(NamespacePrefixes, WhatIsSavedLoadsAgainInTheSameNamespaces) {
+    const auto typed = [](xercesc::DOMNode* n) {
+        Tree::SetAttribute(n, "xsi:type", "urn:xsi", "p", "urn:tt");
+    };
+    const auto named = [](const char* name) {
+        return [name](xercesc::DOMNode* n) { Tree::SetAttribute(n, name, "urn:s", "1"); };
+    };
+    const auto valued = [](const char* name) {
+        return [name](xercesc::DOMNode* n) { Tree::SetValue(n, A, tessera::QName("urn:s", name)); };
+    };
+    const struct {
+        const char* before;
+        std::function<void(xercesc::DOMNode* here)> edit;
+        const char* after;
+    } cases[] = {
+        {"<here xmlns:xsi='urn:o' xsi:b='1'/>", typed, "here {urn:o}b=1 {urn:xsi}type={urn:tt}p"},
+        {"<xsi:here xmlns:xsi='urn:o' b='xsi:v'/>", typed, "{urn:o}here b={urn:o}v {urn:xsi}type={urn:tt}p"},
+        {"<r xmlns:x='urn:o'><here b='x:v'><x:c/></here></r>", named("x:a"),
+         "r[here b={urn:o}v {urn:s}a=1[{urn:o}c]]"},
+        {"<here/>", named("xml:a"), "here {urn:s}a=1"},
+        {"<here/>", named("xmlns:a"), "here {urn:s}a=1"},
+        {"<here/>", valued("xml:v"), "here a={urn:s}v"},
+        {"<here/>", valued("xmlns:v"), "here a={urn:s}v"},
+        {"<here xmlns:\xC3\xA9='urn:s'/>", named("a"), "here {urn:s}a=1"},
+        {"<here xmlns:\xC3\xA9='urn:s'/>", valued("v"), "here a={urn:s}v"},
+        // a name under a prefix that is declared only above, for another namespace, and later than the name
+        {"<r><m><here/></m></r>",
+         [](xercesc::DOMNode* n) {
+             for (xercesc::DOMNode* node : {n, Tree::GetParent(n)}) {
+                 Tree::SetValue(node, S_A, "1");
+             }
+             Tree::SetAttribute(n->getOwnerDocument()->getDocumentElement(), "b", "urn:o", "2");
+             Tree::SetValue(n, O_B, "3");
+             Tree::SetValue(n, A, tessera::QName("urn:o", "v"));
+             Tree::SetValue(Tree::AddElement(n, Child("urn:o", "c")), A, tessera::QName("urn:o", "w"));
+         },
+         "r {urn:o}b=2[m {urn:s}a=1[here a={urn:o}v {urn:o}b=3 {urn:s}a=1[{urn:o}c a={urn:o}w]]]"},
+    };
+    for (const auto& c : cases) {
+        const SampleDocument sample(c.before);
+        c.edit(sample.Element("here"));
+        EXPECT_EQ(Resolved(sample.Root()), c.after) << c.before;
+        const std::vector<unsigned char> bytes = Tree::SaveToBinary(sample.Get(), false);
+        for (const std::string& saved : {std::string(bytes.begin(), bytes.end()), LATIN_1 + sample.Text()}) {
+            try {
+                EXPECT_EQ(Resolved(SampleDocument(saved).Root()), c.after) << saved;
+            } catch (const tessera::DataSourceUnavailableException& failure) {
+                ADD_FAILURE() << failure.message() << "\n" << saved;
+            }
+        }
+    }
+}
+
+/// Names that are not ASCII are converted from the code page of the process, which is UTF-8 here; those from
+/// a document come narrowed.
+TEST(NamespacePrefixes, NamesAreConverted) {
+    const std::string before = std::setlocale(LC_CTYPE, nullptr);
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+    {
+        const SampleDocument sample("<here xmlns:a='urn:\xC3\xA9' a:\xC3\xA9t\xC3\xA9='1' a:\xC3\x83='2' "
+                                    "a:et\xC3\xA9='3' xmlns:\xC3\xA9='urn:e' v='\xC3\xA9:p'/>");
+        const xercesc::DOMElement* here = sample.Element("here");
+        const auto value = [here](const char* namespaceURI, const char* name) {
+            const tessera::MemberInfo member = Attribute(namespaceURI, name);
+            Tree::SoughtAttribute sought[] = {{&member}};
+            Tree::FindAttributes(here, sought, 1);
+            EXPECT_EQ(sought[0].found, Tree::FindAttribute(here, member));
+            return Tree::GetTextValue(sought[0].found);
+        };
+        EXPECT_EQ(value("urn:\xC3\xA9", "\xC3\xA9t\xC3\xA9"), "1");
+        EXPECT_EQ(value("urn:\xC3\xA9", "et\xC3\xA9"), "3");
+        EXPECT_EQ(value("urn:\xE9", "\xE9t\xE9"), "");
+        EXPECT_EQ(value("urn:\xC3\xA9", "\xC3"), "");
+        EXPECT_TRUE(Tree::HasAttributeInNamespace(here, Attribute("urn:\xC3\xA9", "")));
+        EXPECT_FALSE(Tree::HasAttributeInNamespace(here, Attribute("urn:\xE9", "")));
+        EXPECT_EQ(FindPrefixForNamespace(here, "urn:\xC3\xA9"), "a");
+        EXPECT_EQ(FindPrefixForNamespace(here, "urn:\xE9"), "");
+        EXPECT_EQ(FindPrefixForNamespace(here, "urn:e"), "\xE9");
+        EXPECT_EQ(GetUnusedPrefix(here, "\xC3\xA9"), "\xC3\xA9"
+                                                     "1");
+        EXPECT_EQ(Tree::CastToQName(Tree::FindAttribute(here, "", "v"), TEXT).uri, "urn:e");
+    }
+    std::setlocale(LC_CTYPE, before.c_str());
 }
 
 } // namespace

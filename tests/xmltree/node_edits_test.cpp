@@ -1,3 +1,4 @@
+#include "runtime/exceptions.h"
 #include "runtime/qname.h"
 #include "tests/xmltree/sample_document.h"
 #include "xmltree/namespace_names.h"
@@ -152,15 +153,98 @@ TEST(NodeEdits, QualifiedNameValues) {
     ExpectEdits(cases);
 }
 
+/// Every edit of a node, and what becomes of it at the document, its type, a text, a comment, an instruction,
+/// an attribute and an entity reference: "+" an edit, "." nothing, "!" a DOMException, "?" one after a part.
+const struct {
+    const char* name;
+    std::function<void(DOMNode*)> edit;
+    const char* outcomes;
+} EVERY_EDIT[] = {
+    {"AddElement", [](DOMNode* n) { Tree::AddElement(n, P); }, "!!!!!!!"},
+    {"RemoveElements", [](DOMNode* n) { Tree::RemoveElements(n, P); }, "......."},
+    {"RemoveElement", [](DOMNode* n) { Tree::RemoveElement(n, P, 0); }, "......."},
+    {"RemoveAttribute", [](DOMNode* n) { Tree::RemoveAttribute(n, PLAIN); }, "......."},
+    {"RemoveAttribute text", [](DOMNode* n) { Tree::RemoveAttribute(n, TEXT); }, ".....+!"},
+    {"CopyAll", [](DOMNode* n) { Tree::CopyAll(SampleDocument("<r a='1'>t<p/></r>").Root(), n); }, "!!!!!?!"},
+    {"AddProcessingInstruction", [](DOMNode* n) { Tree::AddProcessingInstruction(n, "t", "d"); }, "+!!!!!!"},
+    {"SetValue", [](DOMNode* n) { Tree::SetValue(n, "v"); }, "..++++."},
+    {"SetTextValue", [](DOMNode* n) { Tree::SetTextValue(n, "v"); }, "!!!!!+!"},
+    {"SetValue text", [](DOMNode* n) { Tree::SetValue(n, TEXT, "v"); }, "!!!!!+!"},
+    {"SetValue attribute", [](DOMNode* n) { Tree::SetValue(n, PLAIN, "v"); }, "!!!!!!!"},
+    {"SetValue units", [](DOMNode* n) { Tree::SetValue(n, STYLED, NO_VALUE); }, "!!!!!!!"},
+    {"SetValue source", [](DOMNode* n) { Tree::SetValue(n, PLAIN, n); }, "!!!!!!!"},
+    {"SetValue name", [](DOMNode* n) { Tree::SetValue(n, PLAIN, QName("u", "p:v")); }, "!!!!!!!"},
+    {"SetAttribute", [](DOMNode* n) { Tree::SetAttribute(n, "a", "u", "v"); }, "!!!!!!!"},
+    {"SetAttribute name", [](DOMNode* n) { Tree::SetAttribute(n, "a", "", "v", "u"); }, "!!!!!!!"},
+};
+
+TEST(NodeEdits, NeedANode) {
+    const XercesSession session;
+    for (const auto& c : EVERY_EDIT) {
+        EXPECT_THROW(c.edit(nullptr), tessera::InvalidOperationException) << c.name;
+    }
+}
+
+TEST(NodeEdits, NeedANodeThatTakesThem) {
+    const auto outcome = [](const auto& edit, std::size_t place) {
+        const SampleDocument sample("<!DOCTYPE r [<!ENTITY e 'f'>]><r a='1'>t<!--c--><?i d?>&e;</r>");
+        std::vector<DOMNode*> nodes = {sample.Get(), sample.Get()->getDoctype()};
+        for (auto child = Tree::GetElements(sample.Root()); child.CurrentNode(); ++child) {
+            nodes.push_back(child.CurrentNode());
+        }
+        nodes.insert(nodes.end() - 1, sample.Root()->getAttributes()->item(0));
+        const std::string before = sample.Text();
+        try {
+            edit(nodes.at(place));
+        } catch (const DOMException&) {
+            return sample.Text() == before ? '!' : '?';
+        }
+        return sample.Text() == before ? '.' : '+';
+    };
+    for (const auto& c : EVERY_EDIT) {
+        std::string outcomes;
+        for (std::size_t place = 0; place < 7; ++place) {
+            outcomes += outcome(c.edit, place);
+        }
+        EXPECT_EQ(outcomes, c.outcomes) << c.name;
+    }
+}
+
 TEST(NodeEdits, CopyAllCopiesChildrenAndAttributesBetweenDocuments) {
     const SampleDocument source("<a n='1' xmlns:s='urn:s' s:m='2'>text<b><c/></b><!--d--></a>");
     const SampleDocument target("<here k='3' n='0'><first/></here>");
     Tree::CopyAll(source.Root(), target.Root());
     EXPECT_EQ(target.Text(),
               "<here k='3' n='1' xmlns:s='urn:s' s:m='2'><first/>text<b><c/></b><!--d--></here>");
+    Tree::CopyAll(nullptr, target.Root());
     Tree::CopyAll(source.Element("b"), source.Element("b"));
     EXPECT_EQ(source.Text(), "<a n='1' xmlns:s='urn:s' s:m='2'>text<b><c/><c/></b><!--d--></a>");
     EXPECT_THROW(Tree::CopyAll(source.Root(), source.Root()->getFirstChild()), DOMException);
+}
+
+TEST(NodeEdits, CopyAllCopiesWhatTheXmlLibraryImports) {
+    const char* const sources[] = {
+        "<a>t<b x='1' y='2'><c/><!--d--><?e f?><![CDATA[g]]><c>h</c></b><b/>i</a>",
+        "<a><s:b xmlns='urn:a' xmlns:s='urn:s' s:x='&lt;'><c xmlns=''/></s:b></a>",
+        "<!DOCTYPE a [<!ENTITY e 'f<g>h</g>'><!ATTLIST b x CDATA '1'>]><a>&e;<b>&e;<b/></b></a>",
+        "<!DOCTYPE a [<!ENTITY e 'f'><!ATTLIST b x CDATA '1' i ID #IMPLIED>]><a><b i='k' "
+        "y='&e;'><b>&e;</b></b></a>",
+    };
+    for (const char* xml : sources) {
+        const SampleDocument source(xml);
+        for (const char* type : {"", "<!DOCTYPE r [<!ENTITY e 'other'><!ATTLIST b z CDATA '3'>]>"}) {
+            const SampleDocument copied(type + std::string("<r/>"));
+            const SampleDocument imported(type + std::string("<r/>"));
+            Tree::CopyAll(source.Root(), copied.Root());
+            for (auto child = Tree::GetElements(source.Root()); child.CurrentNode(); ++child) {
+                imported.Root()->appendChild(imported.Get()->importNode(child.CurrentNode(), true));
+            }
+            EXPECT_TRUE(copied.Get()->isEqualNode(imported.Get())) << xml << type << copied.Text();
+            EXPECT_EQ(copied.Text(), imported.Text());
+            const XercesStringTemp id("k");
+            EXPECT_EQ(!copied.Get()->getElementById(id), !imported.Get()->getElementById(id));
+        }
+    }
 }
 
 TEST(NodeEdits, ADocumentIsBuiltFromNothing) {

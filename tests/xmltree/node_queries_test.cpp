@@ -131,6 +131,10 @@ TEST(NodeQueries, DeepDocumentsAreWalkedWithoutRecursion) {
     Tree::SetValue(end, member, "v");
     EXPECT_EQ(Tree::GetTextValue(Tree::FindAttribute(end, member)), "v");
     EXPECT_EQ(GetUnusedPrefix(end, ""), "n0");
+    const SampleDocument copy("<e/>");
+    Tree::CopyAll(sample.Root(), copy.Root());
+    EXPECT_EQ(Tree::GetTextValue(copy.Root()), Tree::GetTextValue(sample.Root()));
+    EXPECT_EQ(Tree::GetTextValue(Tree::FindAttribute(copy.Element("end"), member)), "v");
     Tree::SetTextValue(sample.Root(), "flat");
     EXPECT_EQ(sample.Text(), "<e xmlns='u'>flat</e>");
 }

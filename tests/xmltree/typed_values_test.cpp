@@ -65,6 +65,10 @@ TEST(TypedValues, WritesUseTheFormatterOfTheMember) {
     EXPECT_EQ(written(NO_FORMATTER, 4294967295u), "4294967295");
     EXPECT_EQ(written(NO_FORMATTER, -9223372036854775807LL), "-9223372036854775807");
     EXPECT_EQ(written(NO_FORMATTER, 18446744073709551615ULL), "18446744073709551615");
+    EXPECT_EQ(written(NO_FORMATTER, std::int64_t{-1}), "-1");
+    EXPECT_EQ(written(NO_FORMATTER, std::uint64_t{1}), "1");
+    EXPECT_EQ(written(NO_FORMATTER, -1L), "-1");
+    EXPECT_EQ(written(NO_FORMATTER, 1UL), "1");
     EXPECT_EQ(written(NO_FORMATTER, 2.5), "2.5");
     EXPECT_EQ(written(INTEGER, 2.5), "2");
     EXPECT_EQ(written(NO_FORMATTER, date), "2011-03-15T00:00:00");
