@@ -1,5 +1,7 @@
-# The warnings every target is built with, and the sanitizers and line counters when asked for.
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+# The warnings every target is built with (a build that includes this one sets its own), and the sanitizers and line counters when asked for.
+if(XTTML_ON_ITS_OWN)
+  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+endif()
 if(XTTML_WARNINGS_AS_ERRORS)
   add_compile_options(-Werror)
 endif()

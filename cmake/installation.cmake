@@ -1,44 +1,21 @@
 # What `cmake --install` puts where. Three components, a Debian package each: library, development, tool.
 include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
 include(cmake/pkg_config_file.cmake)
 
-# What a player reads. None of these headers includes the XML library.
-set(XTTML_PUBLIC_HEADERS
-  api/x_ttml.h
-  parser/display_item.h
-  runtime/exceptions.h
-  runtime/export.h
-  style/color.h
-  style/length.h
-  style/styling_attrib.h)
-
-# The document model, for a tool that edits and saves documents. Its headers include the XML library's.
-file(GLOB generatedHeaders RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS binding/generated/*.h)
-list(APPEND XTTML_PUBLIC_HEADERS
-  binding/member_accessors.h
-  binding/tables.h
-  binding/ttaf1_dfxp.h
-  binding/type_base.h
-  ${generatedHeaders}
-  runtime/info.h
-  xmltree/tree_operations.h)
-
 install(TARGETS xttml EXPORT xttml
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/xttml)
 
-# The headers keep their folders, so that one -I serves <x_ttml.h> and the includes that the headers write from
-# the root of the source.
-foreach(header IN LISTS XTTML_PUBLIC_HEADERS)
-  get_filename_component(folder ${header} DIRECTORY)
-  string(REGEX REPLACE "^api$" "" folder ${folder})
-  install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/xttml/${folder} COMPONENT development)
-endforeach()
-install(FILES ${PROJECT_BINARY_DIR}/include/x_ttml_version.h
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/xttml COMPONENT development)
+install(DIRECTORY ${XTTML_INCLUDE_FOLDER}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/xttml COMPONENT development)
 
 xttml_install_pkg_config_file(COMPONENT development)
 
+set(XTTML_PACKAGE_DEPENDENCIES "")
+if(XTTML_KIND STREQUAL STATIC)
+  set(XTTML_PACKAGE_DEPENDENCIES "include(CMakeFindDependencyMacro)\nfind_dependency(XercesC)\n")
+endif()
 set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/xttml)
 configure_package_config_file(cmake/xttmlConfig.cmake.in ${PROJECT_BINARY_DIR}/xttmlConfig.cmake
   INSTALL_DESTINATION ${packageFolder})

@@ -78,7 +78,7 @@ class InstalledTree(unittest.TestCase):
         headers = sorted(self.include.rglob("*.h"))
         self.assertIn(self.include / "x_ttml.h", headers)
         jobs = [(GIVEN.cxx, "c++", CPP17, header) for header in headers]
-        for name in ("x_ttml.h", "x_ttml_version.h", "runtime/export.h"):
+        for name in ("x_ttml.h", "x_ttml_version.h", "xttml/runtime/export.h"):
             jobs.append((GIVEN.cc, "c", C99, self.include / name))
 
         def compile_twice_included(job):
@@ -93,6 +93,18 @@ class InstalledTree(unittest.TestCase):
         text = run(GIVEN.cxx, "-x", "c++", *CPP17, "-M", "-I", self.include, self.include / "x_ttml.h")
         self.assertIn("display_item.h", text)
         self.assertNotIn("xercesc", text)
+
+    def test_a_program_keeps_its_own_names(self):
+        own = self.work / "own"
+        text = "#include <x_ttml.h>\n#include <xttml/binding/ttaf1_dfxp.h>\n"
+        for name in ("binding/tables.h", "parser/display_item.h", "runtime/export.h", "style/color.h"):
+            (own / name).parent.mkdir(parents=True)
+            (own / name).write_text(f"struct Own_{(own / name).stem} {{}};\n")
+            text += f'#include "{name}"\n'
+        text += "Own_tables a; Own_display_item b; Own_export c; Own_color d; TextItem* e; RgbaColor f;\n"
+        for first, second in ((own, self.include), (self.include, own)):
+            with self.subTest(first=first):
+                run(GIVEN.cxx, "-x", "c++", *CPP17, "-I", first, "-I", second, "-fsyntax-only", "-", input=text)
 
     # The version.
 

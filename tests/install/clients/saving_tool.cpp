@@ -1,8 +1,8 @@
 // A tool that edits a document through the installed document model and saves it.
 #include <x_ttml.h>
 
-#include <binding/ttaf1_dfxp.h>
-#include <xmltree/tree_operations.h>
+#include <xttml/binding/ttaf1_dfxp.h>
+#include <xttml/xmltree/tree_operations.h>
 
 #include <cstdio>
 
