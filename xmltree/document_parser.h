@@ -4,6 +4,8 @@
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
+#ifdef XTTML_LINKS_NODES
+
 /// Links texts and the values of attributes itself. The XML library asks by dynamic_cast, several times for
 /// every node that it appends, what kind of node it is, which takes more than a third of a parse; most nodes
 /// of a subtitle document are these.
@@ -17,5 +19,8 @@ protected:
     xercesc::DOMAttr* createAttrNS(const XMLCh* namespaceURI, const XMLCh* prefix, const XMLCh* localName,
                                    const XMLCh* qualifiedName) override;
 };
+#else
+using DocumentParser = xercesc::XercesDOMParser;
+#endif
 
 #endif

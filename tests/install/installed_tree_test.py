@@ -31,6 +31,7 @@ def read_arguments():
     parser = argparse.ArgumentParser()
     for name in ("cmake", "source", "build", "cc", "cxx", "readelf"):
         parser.add_argument(f"--{name}", required=True)
+    parser.add_argument("--prefix", action="append", default=[], help="where CMake found a library aside")
     return parser.parse_args()
 
 
@@ -54,21 +55,27 @@ class InstalledTree(unittest.TestCase):
         run(GIVEN.cmake, "--install", GIVEN.build, "--prefix", cls.prefix)
         cls.include = next(cls.prefix.rglob("x_ttml.h")).parent
         cls.shared_library = next(cls.prefix.rglob("libxttml.so"))
-        cls.environment = {**os.environ, "LD_LIBRARY_PATH": str(cls.shared_library.parent)}
-        search = [str(cls.shared_library.parent / "pkgconfig"), os.environ.get("PKG_CONFIG_PATH", "")]
-        cls.pkg_config_environment = {**cls.environment, "PKG_CONFIG_PATH": ":".join(filter(None, search))}
+        cls.prefixes = [cls.prefix, *map(pathlib.Path, GIVEN.prefix)]
+        folders = [cls.shared_library.parent, *(prefix / "lib" for prefix in cls.prefixes[1:])]
+        cls.search("LD_LIBRARY_PATH", folders)
+        cls.search("PKG_CONFIG_PATH", [folder / "pkgconfig" for folder in folders])
+
+    @staticmethod
+    def search(variable, folders):
+        """Puts folders before those of a search path of the environment."""
+        os.environ[variable] = ":".join(filter(None, [*map(str, folders), os.environ.get(variable)]))
 
     def pkg_config(self, *questions):
         if not shutil.which("pkg-config"):
             self.skipTest("pkg-config is not installed")
-        return run("pkg-config", *questions, env=self.pkg_config_environment).split()
+        return run("pkg-config", *questions).split()
 
     def check_player(self, program):
-        drawn = run(program, env=self.environment).splitlines()
+        drawn = run(program).splitlines()
         self.assertEqual([line for line in DRAWN.splitlines() if line not in drawn], [])
 
     def check_saving_tool(self, program):
-        saved = run(program, env=self.environment)
+        saved = run(program)
         self.assertIn(SAVED, saved)
         self.assertIn('<p begin="5s" end="2s">text</p>', saved)
 
@@ -143,19 +150,20 @@ class InstalledTree(unittest.TestCase):
         ]
         for source, compiler, libraries in compilers:
             run(*compiler, *WARNINGS, source, *libraries, "-o", self.work / source.stem)
-        run(self.work / C_PLAYER.stem, env=self.environment)
+        run(self.work / C_PLAYER.stem)
         self.check_player(self.work / "cpp_player")
         self.check_saving_tool(self.work / "saving_tool")
 
     def test_clients_by_find_package(self):
         build = self.work / "clients"
+        prefixes = ";".join(map(str, self.prefixes))
         found = run(
-            GIVEN.cmake, "-S", HERE / "clients", "-B", build, f"-DCMAKE_PREFIX_PATH={self.prefix}",
+            GIVEN.cmake, "-S", HERE / "clients", "-B", build, f"-DCMAKE_PREFIX_PATH={prefixes}",
             f"-DCMAKE_C_COMPILER={GIVEN.cc}", f"-DCMAKE_CXX_COMPILER={GIVEN.cxx}", f"-DC_PLAYER={C_PLAYER}",
         )
         self.assertIn(f"xttml_VERSION={self.version_in_header()}", found)
         run(GIVEN.cmake, "--build", build, "--parallel", str(os.cpu_count()))
-        run(build / "c_player", env=self.environment)
+        run(build / "c_player")
         self.check_player(build / "cpp_player")
         self.check_saving_tool(build / "saving_tool")
 
