@@ -279,7 +279,8 @@ public:
     static std::string FormatNumber(unsigned long long value, unsigned width);
     /// The fraction `value` / 10^`width` as "." and its digits without trailing zeros; empty for 0.
     static std::string FormatFraction(unsigned long long value, unsigned width);
-    /// "Z", or the sign, hours and minutes of an offset in minutes; empty for DateTime::NO_TIMEZONE.
+    /// "Z" for 0, else the sign, hours and minutes of an offset in minutes: "+05:30"; empty for
+    /// DateTime::NO_TIMEZONE.
     static std::string FormatTimezone(short minutes);
 
     // Boxes: a pointer to a value or null for an absent one.

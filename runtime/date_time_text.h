@@ -9,22 +9,21 @@
 
 namespace tessera {
 
-// Every form ends with the timezone when the value has one. Years have at least four digits and a "-" before
-// 0000; months, days, hours, minutes and seconds have two digits; the fraction of a second has up to seven.
+// The forms of CoreTypes::DateTimeFormat, in its order.
 
-std::string PrintDateTime(const DateTime& value);      ///< date "T" time
-std::string PrintDate(const DateTime& value);          ///< yyyy-mm-dd
-std::string PrintTime(const DateTime& value);          ///< hh:mm:ss, fraction
-std::string PrintGYear(const DateTime& value);         ///< yyyy
-std::string PrintGYearMonth(const DateTime& value);    ///< yyyy-mm
-std::string PrintGMonth(const DateTime& value);        ///< --mm
-std::string PrintGMonthDay(const DateTime& value);     ///< --mm-dd
-std::string PrintGDay(const DateTime& value);          ///< ---dd
-std::string PrintDateSpaceTime(const DateTime& value); ///< date " " time
-std::string PrintSeconds(const DateTime& value);       ///< the tick count in seconds
-std::string PrintDays(const DateTime& value);          ///< the tick count in days, up to seven decimals
+std::string PrintDateTime(const DateTime& value);
+std::string PrintDate(const DateTime& value);
+std::string PrintTime(const DateTime& value);
+std::string PrintGYear(const DateTime& value);
+std::string PrintGYearMonth(const DateTime& value);
+std::string PrintGMonth(const DateTime& value);
+std::string PrintGMonthDay(const DateTime& value);
+std::string PrintGDay(const DateTime& value);
+std::string PrintDateSpaceTime(const DateTime& value);
+std::string PrintSeconds(const DateTime& value);
+std::string PrintDays(const DateTime& value);
 
-/// "Z" for 0, else the sign, hours and minutes of an offset in minutes: "+05:30"; empty for NO_TIMEZONE.
+/// As CoreTypes::FormatTimezone.
 std::string PrintTimezone(std::int16_t minutes);
 
 /// As CoreTypes::TryParseDateTime.

@@ -9,14 +9,12 @@
 
 namespace tessera {
 
-/// "P1Y2M", "-P3M"; "P0M" for zero.
+// As CoreTypes::CastToString.
+
 std::string PrintDuration(const YearMonthDuration& value);
-
-/// "P1DT2H3M4.5S", "-PT1M"; "PT0S" for zero.
 std::string PrintDuration(const DayTimeDuration& value);
-
-/// Both parts after one sign and one "P"; "PT0S" for zero. Throws ValueNotRepresentableException when one
-/// part is negative and the other positive.
+/// The two parts of a Duration. Throws ValueNotRepresentableException when one is negative and the other
+/// positive.
 std::string PrintDuration(const YearMonthDuration& yearMonth, const DayTimeDuration& dayTime);
 
 /// Reads the form that CoreTypes::CastToDuration describes. False for any other text and for a length that

@@ -57,13 +57,16 @@ public:
 // The references FacetCheck_<type>_<facet>. Three lists say which there are: every type has the value facets;
 // string, anySimpleType and the binary types have the length facets too.
 // clang-format off
+/// Applies DO(type) to every type.
 #define XTTML_FACETED_TYPES(DO)                                                 \
     DO(string) DO(hexBinary) DO(base64Binary) DO(decimal) DO(boolean) DO(float) \
     DO(double) DO(duration) DO(dateTime) DO(time) DO(date) DO(gYear) DO(gMonth) \
     DO(gDay) DO(gYearMonth) DO(gMonthDay) DO(anySimpleType)
+/// Applies DO(type, facet) to the facets that every type has.
 #define XTTML_VALUE_FACETS(DO, type)                                                       \
     DO(type, pattern) DO(type, enumeration) DO(type, totalDigits) DO(type, fractionDigits) \
     DO(type, minInclusive) DO(type, maxInclusive) DO(type, minExclusive) DO(type, maxExclusive)
+/// Applies DO(type, facet) to the length facets.
 #define XTTML_LENGTH_FACETS(DO, type) DO(type, length) DO(type, minLength) DO(type, maxLength)
 // clang-format on
 
@@ -76,9 +79,11 @@ public:
     XTTML_LENGTH_FACETS(DO, hexBinary)                                                                       \
     XTTML_LENGTH_FACETS(DO, base64Binary)
 
-// The lengths of hexBinary and base64Binary are null: nothing checks them. The lengths and the enumeration
-// of string and the enumerations of the binary types are checked; every other check always passes.
+/// Declares the reference for one facet of one type. The lengths of hexBinary and base64Binary are null:
+/// nothing checks them. The lengths and the enumeration of string and the enumerations of the binary types
+/// are checked; every other check always passes.
 #define XTTML_DECLARE_CHECK(type, facet) extern XTTML_API const FacetCheck* const FacetCheck_##type##_##facet;
+/// Declares the references for the value facets of one type.
 #define XTTML_DECLARE_CHECK_OF_TYPE(type) XTTML_VALUE_FACETS(XTTML_DECLARE_CHECK, type)
 XTTML_FACET_CHECKS(XTTML_DECLARE_CHECK)
 #undef XTTML_DECLARE_CHECK_OF_TYPE

@@ -63,13 +63,14 @@ public:
     /// Reads Base64; throws StringParseException of type "base64Binary".
     std::vector<unsigned char> ParseBinary(const std::string& text) const override;
 
-    /// @{
-    /// As the integer of 64 bits and the same sign.
+    /// As for a long long.
     std::string Format(int value) const { return Format(static_cast<long long>(value)); }
+    /// As for an unsigned long long.
     std::string Format(unsigned value) const { return Format(static_cast<unsigned long long>(value)); }
+    /// As for a long long.
     std::string Format(long value) const { return Format(static_cast<long long>(value)); }
+    /// As for an unsigned long long.
     std::string Format(unsigned long value) const { return Format(static_cast<unsigned long long>(value)); }
-    /// @}
     /// Keeps pointers, string literals among them, from being taken for a bool.
     std::string Format(const void* value) const = delete;
 };

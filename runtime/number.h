@@ -32,10 +32,10 @@ struct LexicalNumber {
 /// Classifies a text that has been trimmed already; white space anywhere makes it no number.
 LexicalNumber ClassifyNumber(std::string_view text);
 
-/// True for "NaN", "INF", "-INF" and whatever classifies as a number, white space around it allowed.
+/// As CoreTypes::IsNumber: one of "NaN", "INF", "-INF" or whatever classifies as a number.
 bool IsNumber(std::string_view text);
 
-/// Reads an optional sign and the digits after it; what follows the digits is not read.
+/// As CoreTypes::ParseInteger; the normalised copy of a text of kind INTEGER is read whole.
 ParsedInteger ParseInteger(std::string_view text);
 
 /// The integer of a magnitude and a sign, or nothing when `Integer` cannot hold it.
@@ -67,19 +67,17 @@ Integer TruncateDouble(double value);
 template <class Integer, class Number>
 Integer CastNumber(Number value);
 
-/// The shortest plain decimal (no exponent) that reads back as `value`, at most 15 significant digits; a
-/// value that needs more is rounded to the nearest with 15, a half up. "NaN", "INF" and "-INF" for what is
-/// no number; "0" for both zeros.
+/// As CoreTypes::CastToString.
 std::string PrintDouble(double value);
 
 /// An integer's decimal digits, "-" before a negative one; a floating-point number as PrintDouble prints it.
 template <class Number>
 std::string PrintNumber(Number value);
 
-/// Decimal digits, zeros before them up to `width`.
+/// As CoreTypes::FormatNumber.
 std::string PrintDigits(std::uint64_t value, unsigned width);
 
-/// The fraction `value` / 10^`width` as "." and its digits without trailing zeros; empty for 0.
+/// As CoreTypes::FormatFraction.
 std::string PrintFraction(std::uint64_t value, unsigned width);
 
 template <class Number>
