@@ -102,6 +102,17 @@ def grouped_rows(records, row):
     return "".join(lines)
 
 
+def table_sizes():
+    sizes = [("NAMESPACE", SCHEMA.namespaces, "records of `namespaces` before its end"),
+             ("TYPE", SCHEMA.types, "records of `types` before its end"),
+             ("MEMBER", SCHEMA.members, "records of `members` before its end"),
+             ("FACET", SCHEMA.facets, "records of `facets`, the ends of the lists included")]
+    constants = "".join(f"inline constexpr std::uint32_t {table}_COUNT = {len(records)}; ///< {meaning}\n"
+                        for table, records, meaning in sizes)
+    return header(SOURCES / "table_sizes.h", "The sizes of the tables.", ["#include <cstdint>"],
+                  f"namespace ttaf1_dfxp {{\n\n{constants}\n}} // namespace ttaf1_dfxp\n")
+
+
 # Wrapper classes.
 
 
@@ -273,6 +284,7 @@ def generated_files():
     rows = {"namespace_rows.inc": namespace_rows, "type_rows.inc": type_rows,
             "member_rows.inc": member_rows, "facet_rows.inc": facet_rows}
     files = {SOURCES / name: HEAD + write() for name, write in rows.items()}
+    files[SOURCES / "table_sizes.h"] = table_sizes()
     files[SOURCES / "class_names.h"] = class_names()
     assert {type_.module for type_ in SCHEMA.types} == set(MODULE_TITLES), "a type without a header"
     files.update({SOURCES / f"{module}.h": module_header(module) for module in MODULE_TITLES})

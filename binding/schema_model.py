@@ -104,6 +104,7 @@ class Schema:
                 self._add_type(namespace, type_)
         self._types_by_key = {type_.key: type_ for type_ in self.types}
         assert len(self._types_by_key) == len(self.types), "two types share a name"
+        self._require_names()
 
     def _add_type(self, namespace, type_):
         type_.prefix = namespace.prefix
@@ -115,6 +116,18 @@ class Schema:
         if type_.facets:
             type_.facet_index = len(self.facets)
             self.facets += [(type_, facet) for facet in [*type_.facets, None]]
+
+    def _require_names(self):
+        """Ends the program with a line about the first name that nothing in the description bears."""
+        prefixes = {"", *(namespace.prefix for namespace in self.namespaces)}
+        for type_ in self.types:
+            if type_.base and type_.base not in self._types_by_key:
+                raise SystemExit(f"{type_.key} derives from {type_.base}: there is no such type")
+        for owner, member in self.members:
+            if member.data_type not in self._types_by_key:
+                raise SystemExit(f"{owner.key} has {member.name} of {member.data_type}: there is no such type")
+            if member.prefix not in prefixes:
+                raise SystemExit(f"{owner.key} has {member.name}: there is no namespace {member.prefix}")
 
     def type(self, key):
         return self._types_by_key[key]

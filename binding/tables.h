@@ -5,17 +5,11 @@
 #ifndef XTTML_BINDING_TABLES_H
 #define XTTML_BINDING_TABLES_H
 
+#include "binding/generated/table_sizes.h"
 #include "runtime/export.h"
 #include "runtime/info.h"
 
-#include <cstdint>
-
 namespace ttaf1_dfxp {
-
-inline constexpr std::uint32_t NAMESPACE_COUNT = 10; ///< records of `namespaces` before its end
-inline constexpr std::uint32_t TYPE_COUNT = 144;     ///< records of `types` before its end
-inline constexpr std::uint32_t MEMBER_COUNT = 490;   ///< records of `members` before its end
-inline constexpr std::uint32_t FACET_COUNT = 259;    ///< records of `facets`, the ends of the lists included
 
 /// In the order of the types that they own.
 extern XTTML_API const tessera::NamespaceInfo namespaces[NAMESPACE_COUNT + 1];

@@ -1,5 +1,7 @@
-"""Generates the binding afresh and compares it with the files of the repository, byte for byte."""
+"""Generates the binding afresh and compares it with the files of the repository, byte for byte;
+tries names that are not there."""
 
+import importlib
 import pathlib
 import subprocess
 import sys
@@ -13,8 +15,28 @@ def contents(root):
             for path in (root / GENERATED).rglob("*") if path.is_file()}
 
 
+def check_names(repository):
+    """A name in the description that nothing bears ends the generator with a line that tells it."""
+    sys.dont_write_bytecode = True
+    sys.path.insert(0, str(repository / "binding"))
+    model = importlib.import_module("schema_model")
+    for prefix, base, data_type, line in [
+            ("a", "a:base", "a:toy", "a:p has a:m of a:toy: there is no such type"),
+            ("b", "a:base", "a:base", "a:p has b:m: there is no namespace b"),
+            ("a", "a:toy", "a:base", "a:p derives from a:toy: there is no such type")]:
+        types = [model.complex_type("base", None),
+                 model.complex_type("p", base, model.attribute(f"{prefix}:m", data_type))]
+        try:
+            model.Schema([model.Namespace("a", "urn:a", "module", types)])
+            sys.exit("nothing said: " + line)
+        except SystemExit as end:
+            if end.code != line:
+                sys.exit(f"{end.code}\ninstead of\n{line}")
+
+
 def main():
     repository = pathlib.Path(sys.argv[1])
+    check_names(repository)
     with tempfile.TemporaryDirectory() as folder:
         generator = repository / "binding/generate.py"
         subprocess.run([sys.executable, "-B", generator, folder], check=True)

@@ -86,8 +86,9 @@ TEST(TypeBase, FindsNothingWhereNothingIs) {
         EXPECT_EQ(empty.GetElementNth(BODY_DIV, 0), nullptr);
         EXPECT_EQ(empty.GetElementLast(BODY_DIV), nullptr);
         EXPECT_EQ(empty.CountElement(BODY_DIV), 0U);
-        empty.RemoveElement(BODY_DIV);
     }
+    TypeBase(document.Dom().getDocumentElement()).RemoveElement(BODY_DIV);
+    EXPECT_THROW(TypeBase(nullptr).RemoveElement(BODY_DIV), tessera::InvalidOperationException);
 }
 
 TEST(TypeBase, EnumerationValues) {
@@ -164,6 +165,17 @@ TEST(TypeBase, SetXsiTypeWritesTheNearestNamedType) {
                                 types[type].localName;
         EXPECT_EQ(written, found == anonymous.end() ? own : found->second) << type;
     }
+}
+
+TEST(TypeBase, SetXsiTypeKeepsThePrefixesInUse) {
+    const OwnedDocument document("<xsi:p xmlns:xsi='urn:o' xmlns:n0='urn:n' xsi:a='n0:v'/>");
+    tt::Cp_eltype(document.Dom().getDocumentElement()).SetXsiType();
+    const OwnedDocument again(document.root.SaveToString(false));
+    const DOMElement* element = again.Dom().getDocumentElement();
+    EXPECT_EQ(XsiTypeOf(element), "{http://www.w3.org/ns/ttml}p.eltype");
+    EXPECT_EQ(std::string(XercesUnstringTemp(element->getNamespaceURI())), "urn:o");
+    EXPECT_TRUE(element->hasAttributeNS(XercesStringTemp("urn:o"), XercesStringTemp("a")));
+    EXPECT_EQ(NamespaceBoundTo(element, "n0"), "urn:n");
 }
 
 TEST(TypeBase, SetXsiTypeNeedsAnElement) {
