@@ -6,6 +6,7 @@
 #include "fuzz/item_invariants.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -24,9 +25,32 @@ std::int32_t ChooseTime(Choices& choices) {
     }
 }
 
+/// Of the walk: the first time after another at which an item begins or has ended.
+std::optional<std::int32_t> FindNextChange(const std::vector<DisplayItem*>& items, std::int32_t after) {
+    std::optional<std::int64_t> next;
+    for (const DisplayItem* item : items) {
+        for (const std::int64_t time :
+             {std::int64_t{item->iGetBeginTime()}, item->iGetEndTime() + std::int64_t{1}}) {
+            if (item->iGetBeginTime() <= item->iGetEndTime() && time > after &&
+                time < next.value_or(std::int64_t{INT32_MAX} + 1))
+                next = time;
+        }
+    }
+    return next ? std::optional<std::int32_t>(static_cast<std::int32_t>(*next)) : std::nullopt;
+}
+
 void RequireAnswer(const TimeIndex& index, const std::vector<DisplayItem*>& items, std::int32_t signedTime) {
     const auto time = static_cast<std::uint32_t>(signedTime);
     Require(index.rFind(time).value_or(items.size()) == FindByWalking(items, time), "the index as the walk");
+    std::size_t next = 0;
+    const auto findOnScreen = [&] {
+        while (next < items.size() && !items[next]->fgCheckTimeInfo(signedTime))
+            ++next;
+        return next++;
+    };
+    index.vVisitOnScreen(signedTime, [&](std::size_t item) { Require(item == findOnScreen(), "on screen"); });
+    Require(findOnScreen() == items.size(), "all that is on screen");
+    Require(index.rFindNextChange(signedTime) == FindNextChange(items, signedTime), "the next change");
 }
 
 } // namespace

@@ -18,11 +18,11 @@ void vMergeContent(TextItem& target, const TextItem& source) {
 } // namespace
 
 std::optional<std::size_t> TtmlParser::rFindByTime(std::uint32_t uTime) const {
-    const bool fgCurrent = timeIndex_.uGetItemCount() == vecDisplaySequence_.size();
-    return fgCurrent ? timeIndex_.rFind(uTime) : rWalkToTime(uTime);
+    return fgIsIndexed() ? timeIndex_.rFind(uTime) : rWalkToTime(uTime);
 }
 
-// For a sequence that a generation has left unfinished.
+// For a sequence that the index knows only in part: there was no memory for it, or items were appended one by
+// one.
 std::optional<std::size_t> TtmlParser::rWalkToTime(std::uint32_t uTime) const {
     const auto fgOnScreen = [uTime](const DisplayItem* pItem) {
         return pItem->fgCheckTimeInfo(static_cast<std::int32_t>(uTime));
@@ -56,6 +56,46 @@ void TtmlParser::vGetDisplayItemArrayByTime(DisplayItem** ppItems, std::uint32_t
     const std::size_t uEnd = std::min(*uAnchor + uSlots, vecDisplaySequence_.size());
     for (std::size_t i = *uAnchor; i < uEnd && fgSharesTimes(*vecDisplaySequence_[i], anchor); ++i)
         ppItems[i - *uAnchor] = vecDisplaySequence_[i];
+}
+
+std::uint32_t TtmlParser::uGetDisplayItemsOnScreen(DisplayItem** ppItems, std::uint32_t uCapacity,
+                                                   std::uint32_t uTime) const {
+    const auto iTime = static_cast<std::int32_t>(uTime);
+    std::uint32_t uCount = 0;
+    const auto vTake = [&](DisplayItem* pItem) {
+        if (ppItems && uCount < uCapacity)
+            ppItems[uCount] = pItem;
+        ++uCount;
+    };
+    if (fgIsIndexed()) {
+        timeIndex_.vVisitOnScreen(iTime, [&](std::size_t uItem) { vTake(vecDisplaySequence_[uItem]); });
+    } else {
+        for (DisplayItem* const pItem : vecDisplaySequence_) {
+            if (pItem->fgCheckTimeInfo(iTime))
+                vTake(pItem);
+        }
+    }
+    return uCount;
+}
+
+std::optional<std::int32_t> TtmlParser::rGetNextChange(std::int32_t iAfter) const {
+    return fgIsIndexed() ? timeIndex_.rFindNextChange(iAfter) : rWalkToNextChange(iAfter);
+}
+
+std::optional<std::int32_t> TtmlParser::rWalkToNextChange(std::int32_t iAfter) const {
+    std::optional<std::int32_t> iFirst;
+    const auto vOffer = [&](std::int32_t iTime) {
+        if (iTime > iAfter && (!iFirst || iTime < *iFirst))
+            iFirst = iTime;
+    };
+    for (const DisplayItem* const pItem : vecDisplaySequence_) {
+        if (pItem->iGetEndTime() < pItem->iGetBeginTime())
+            continue;
+        vOffer(pItem->iGetBeginTime());
+        if (pItem->iGetEndTime() < INT32_MAX)
+            vOffer(pItem->iGetEndTime() + 1);
+    }
+    return iFirst;
 }
 
 DisplayItem* TtmlParser::rCombineSameTimeItem() {

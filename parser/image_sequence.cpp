@@ -47,6 +47,7 @@ void TtmlParser::vGenerateImageDisplaySequence(int iOffset) {
     vGenerateRegionAttribSequence();
     vGenerateStyleAttribSequence();
     const TimeRates rates = rReadTimeRates(); // once: to reach the root is to pass all that stands before it
+    const TimeIndexCompletion completion(timeIndex_, vecDisplaySequence_);
     auto itrDivision = body->div.all();
     for (; itrDivision.CurrentNode(); ++itrDivision)
         vAppendImages(itrDivision, rates, iOffset);

@@ -160,6 +160,7 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
     vResetDocumentTime();
     vGenerateRegionAttribSequence();
     vGenerateStyleAttribSequence();
+    const TimeIndexCompletion completion(timeIndex_, vecDisplaySequence_);
     std::optional<TimeRates> rates;
     for (; itrP.CurrentNode(); ++itrP) {
         vAppend(rMakeTextItem(itrP, rates, iOffset));

@@ -96,6 +96,14 @@ public:
     /// Fills four slots with that item and the items right after it that share its begin and end; slots left
     /// over are null. The current item stays.
     void vGetDisplayItemArrayByTime(DisplayItem** ppItems, std::uint32_t uTime) const;
+    /// Writes the items on screen at `uTime` ms, overlapping ones included, in generation order, as many as
+    /// fit; the current item stays, and slots left over stay as they are.
+    /// @param ppItems room for `uCapacity` items; null: none are written
+    /// @return how many are on screen, whether they fit or not
+    std::uint32_t uGetDisplayItemsOnScreen(DisplayItem** ppItems, std::uint32_t uCapacity,
+                                           std::uint32_t uTime) const;
+    /// The first ms after `iAfter` at which other items are on screen than right before; nothing: never.
+    std::optional<std::int32_t> rGetNextChange(std::int32_t iAfter) const;
     /// Merges the content of the items right after the current one that share its times into it.
     /// @return the current item; null when the sequence is empty
     DisplayItem* rCombineSameTimeItem();
@@ -201,8 +209,10 @@ private:
                       bool fgReadForced);
     bool fgItemsUseDocumentBuffer() const;
 
+    bool fgIsIndexed() const { return timeIndex_.uGetItemCount() == vecDisplaySequence_.size(); }
     std::optional<std::size_t> rFindByTime(std::uint32_t uTime) const;
     std::optional<std::size_t> rWalkToTime(std::uint32_t uTime) const;
+    std::optional<std::int32_t> rWalkToNextChange(std::int32_t iAfter) const;
 
     std::int32_t iDocumentStartTime_;
     std::int32_t iDocumentEndTime_;
@@ -219,7 +229,7 @@ private:
     ttaf1_dfxp::tt::Cttaf1_dfxp documentRoot_;
     std::vector<std::vector<std::uint8_t>> vecEarlierBuffers_; // that items point into
     StylingAttrib rootStyling_; // of an item that names no region: the default on the root extent
-    TimeIndex timeIndex_;       // of the sequence as the last completed generation left it
+    TimeIndex timeIndex_;       // of the sequence as the last generation left it
 };
 
 #endif

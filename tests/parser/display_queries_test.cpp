@@ -37,6 +37,17 @@ protected:
             strIndices += pItem ? std::to_string(iIndexOf(pItem)) : "-";
         return strIndices;
     }
+    /// The count, and what the first slots hold: "=" as before.
+    std::string strOnScreenAt(std::uint32_t uTime, std::uint32_t uCapacity) const {
+        DisplayItem untouched;
+        std::array<DisplayItem*, 5> aItems;
+        aItems.fill(&untouched);
+        std::string strFound =
+            std::to_string(parser.uGetDisplayItemsOnScreen(aItems.data(), uCapacity, uTime)) + ":";
+        for (const DisplayItem* pItem : aItems)
+            strFound += pItem == &untouched ? "=" : std::to_string(iIndexOf(pItem));
+        return strFound;
+    }
 };
 
 TEST_F(DisplayQueries, FindTheItemOnScreenOrTheNext) {
@@ -81,10 +92,30 @@ TEST_F(DisplayQueries, FillAnArrayWithAdjacentItemsOfTheSameTimes) {
     EXPECT_EQ(strArrayAt(9000), "----");
 }
 
-TEST_F(DisplayQueries, TheArrayQueryLeavesTheCurrentItem) {
+TEST_F(DisplayQueries, TellAllThatIsOnScreenInSequenceOrder) {
+    vMake({{3000, 4000}, {0, 10000}, {1000, 2000}, {2000, 3000}, {9000, 8000}});
+    EXPECT_EQ(strOnScreenAt(3000, 5), "3:013==");
+    EXPECT_EQ(strOnScreenAt(3000, 2), "3:01===") << "the first of them";
+    EXPECT_EQ(strOnScreenAt(8500, 5), "1:1====");
+    EXPECT_EQ(strOnScreenAt(10001, 5), "0:=====");
+    EXPECT_EQ(strOnScreenAt(4294967295U, 5), "0:=====") << "-1 as a signed time";
+    EXPECT_EQ(parser.uGetDisplayItemsOnScreen(nullptr, 0, 3000), 3U);
+    EXPECT_EQ(parser.uGetDisplayItemsOnScreen(nullptr, 5, 3000), 3U);
+}
+
+TEST_F(DisplayQueries, TellTheNextChange) {
+    vMake({{5000, 6000}, {1000, 2000}, {2001, 3000}, {2500, 2600}, {9000, 8000}});
+    std::vector<std::int32_t> vecChanges;
+    for (auto iChange = parser.rGetNextChange(INT32_MIN); iChange; iChange = parser.rGetNextChange(*iChange))
+        vecChanges.push_back(*iChange);
+    EXPECT_EQ(vecChanges, (std::vector<std::int32_t>{1000, 2001, 2500, 2601, 3001, 5000, 6001}));
+}
+
+TEST_F(DisplayQueries, TheArrayQueriesLeaveTheCurrentItem) {
     vMake({{0, 10}, {20, 30}});
     EXPECT_EQ(iAt(25), 1);
     strArrayAt(5);
+    strOnScreenAt(5, 1);
     EXPECT_EQ(iIndexOf(parser.rCombineSameTimeItem()), 1);
 }
 
@@ -109,6 +140,8 @@ TEST_F(DisplayQueries, AnswerAnEmptySequence) {
     EXPECT_EQ(parser.rGetDisplayItemByTime(0), nullptr);
     EXPECT_EQ(parser.rCombineSameTimeItem(), nullptr);
     EXPECT_EQ(strArrayAt(0), "----");
+    EXPECT_EQ(strOnScreenAt(0, 5), "0:=====");
+    EXPECT_EQ(parser.rGetNextChange(INT32_MIN), std::nullopt);
     vMake({{0, 1}, {5, 6}});
     EXPECT_EQ(iAt(5), 1);
     parser.vClearDisplaySequence();

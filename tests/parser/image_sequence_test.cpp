@@ -185,6 +185,25 @@ TEST_F(ImageSequence, RaisesWhereATimeIsMissing) {
     EXPECT_THROW(vGenerate("<div/>", "", "ttp:frameRate='-1'"), tessera::OutOfRangeException);
 }
 
+// Nothing has put them into the index yet.
+TEST_F(ImageSequence, FindsImagesThatWereAppendedOneByOne) {
+    ASSERT_NO_FATAL_FAILURE(vGenerate("<div begin='1s' end='3s' " + strReference("1.png") + "/>"));
+    vHandOver(strPng(10));
+    parser.vGeneratePNGBufferInfo();
+    for (const int iOffset : {1000, INT32_MAX - 3000, -5000})
+        parser.vGetImageItem(parser.rGetDocumentRoot().tt.first().body.first().div.first(), iOffset);
+    parser.vGetImageItem(parser.rGetDocumentRoot().tt.first().body.first().div.first(), INT32_MAX - 1500);
+    EXPECT_EQ(parser.rGetDisplayItemByTime(2000), &rItem(0));
+    DisplayItem* pItem = nullptr;
+    EXPECT_EQ(parser.uGetDisplayItemsOnScreen(&pItem, 1, INT32_MAX), 1U);
+    EXPECT_EQ(pItem, &rItem(1));
+    std::vector<std::int32_t> vecChanges;
+    for (auto iChange = parser.rGetNextChange(INT32_MIN); iChange; iChange = parser.rGetNextChange(*iChange))
+        vecChanges.push_back(*iChange);
+    EXPECT_EQ(vecChanges, (std::vector<std::int32_t>{-4000, -1999, 2000, 4001, INT32_MAX - 2000}))
+        << "the last is on screen to the end of time, and one whose end wraps is never";
+}
+
 TEST_F(ImageSequence, KeepsABlockWhileItemsPointIntoIt) {
     const std::string strDivision = "<div begin='0s' end='1s' " + strReference("1.png") + "/>";
     vHandOver(strPng(1000));
