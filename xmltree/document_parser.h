@@ -6,19 +6,25 @@
 
 #ifdef XTTML_LINKS_NODES
 
-/// Links texts and the values of attributes itself. The XML library asks by dynamic_cast, several times for
-/// every node that it appends, what kind of node it is, which takes more than a third of a parse; most nodes
-/// of a subtitle document are these.
+/// Links elements, their attributes and texts itself. The XML library asks by dynamic_cast, several times for
+/// every node, what kind of node it is, which takes more than a third of a parse. The rarer kinds of nodes,
+/// and all that a document type has a part in, are left to it. Namespaces have to be on.
 class DocumentParser : public xercesc::XercesDOMParser {
 public:
     using XercesDOMParser::XercesDOMParser;
 
     void docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) override;
+    void startElement(const xercesc::XMLElementDecl& declaration, unsigned int namespaceId,
+                      const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                      XMLSize_t attributeCount, bool isEmpty, bool isRoot) override;
+    void endElement(const xercesc::XMLElementDecl& declaration, unsigned int namespaceId, bool isRoot,
+                    const XMLCh* prefix) override;
 
-protected:
-    xercesc::DOMAttr* createAttrNS(const XMLCh* namespaceURI, const XMLCh* prefix, const XMLCh* localName,
-                                   const XMLCh* qualifiedName) override;
+private:
+    const XMLCh* NamespaceOf(unsigned int id) const;
+    xercesc::DOMAttr* MakeAttribute(const xercesc::XMLAttr& attribute);
 };
+
 #else
 using DocumentParser = xercesc::XercesDOMParser;
 #endif
