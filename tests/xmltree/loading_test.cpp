@@ -115,7 +115,9 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
             const std::string outcome = Outcome([&text] { return Tree::LoadXml(text); });
             EXPECT_EQ(outcome, Outcome([&text] { return Tree::LoadFromBinary(Bytes(text)); }));
             if (plain.Message().empty()) {
-                EXPECT_TRUE(plain.IsSame(*SampleDocument(text).Get()));
+                const SampleDocument document(text);
+                EXPECT_TRUE(plain.IsSame(*document.Get()));
+                EXPECT_TRUE(plain.HasSameCopy(*document.Get()));
             } else {
                 EXPECT_EQ(outcome, plain.Message());
             }
@@ -139,6 +141,34 @@ TEST(Loading, AttributesCanBeEditedLikeAnyNode) {
     root->setAttributeNS(nullptr, XercesStringTemp("b"), XercesStringTemp("4"));
     attribute = root->getAttributeNode(XercesStringTemp("b"));
     EXPECT_EQ(value(), "4");
+}
+
+TEST(Loading, NodesCanBeMovedLikeAnyOther) {
+    const SampleDocument document("<tt><p a='1'/>text<br/></tt>");
+    const SampleDocument target("<tt/>");
+    xercesc::DOMElement* root = document.Root();
+    const auto children = [&root] {
+        std::string names;
+        for (const xercesc::DOMNode* child = root->getFirstChild(); child; child = child->getNextSibling()) {
+            names += XercesUnstringTemp(child->getNodeName()) + " ";
+        }
+        return names;
+    };
+    const XercesStringTemp key("key");
+    int number = 1;
+    xercesc::DOMNode* paragraph = root->getFirstChild();
+    paragraph->setUserData(key, &number, nullptr);
+    root->insertBefore(root->getLastChild(), paragraph);
+    EXPECT_EQ(children(), "br p #text ");
+    root->appendChild(root->removeChild(root->getFirstChild()->getNextSibling()));
+    EXPECT_EQ(children(), "br #text p ");
+    EXPECT_EQ(root->getLastChild()->getUserData(key), &number);
+    xercesc::DOMNode* import = target.Get()->importNode(root, true);
+    EXPECT_TRUE(import->isEqualNode(root));
+    target.Root()->appendChild(import);
+    root->removeChild(root->getFirstChild())->release();
+    root->appendChild(document.Get()->createElement(XercesStringTemp("span")));
+    EXPECT_EQ(children(), "#text p span ");
 }
 
 TEST(Loading, WithoutTheXmlLibraryFailsInsteadOfCrashing) {
