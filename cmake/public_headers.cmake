@@ -22,7 +22,15 @@ list(APPEND XTTML_PUBLIC_HEADERS
   binding/ttaf1_dfxp.h
   binding/type_base.h
   ${generatedHeaders}
+  runtime/core_types.h
+  runtime/date_time.h
+  runtime/duration.h
+  runtime/facets.h
+  runtime/formatters.h
   runtime/info.h
+  runtime/ordering.h
+  runtime/parsed_integer.h
+  runtime/qname.h
   xmltree/tree_operations.h)
 
 set(XTTML_INCLUDE_FOLDER ${PROJECT_BINARY_DIR}/include/xttml)

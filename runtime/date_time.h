@@ -27,8 +27,8 @@ public:
     /// 0001-01-01T00:00:00 without a timezone.
     constexpr DateTime() = default;
     /// From ticks since 0001-01-01T00:00:00 local time and the offset from UTC in minutes.
-    constexpr explicit DateTime(std::int64_t value, std::int16_t timezone = NO_TIMEZONE)
-        : value_(value), timezone_(timezone) {}
+    constexpr explicit DateTime(std::int64_t value, std::int16_t offset = NO_TIMEZONE)
+        : value_(value), timezone_(offset) {}
     /// Throws as Init does. The timezone is the offset from UTC in minutes.
     DateTime(std::int32_t year, std::uint8_t month, std::uint8_t day, std::uint8_t hour, std::uint8_t minute,
              double second, std::int16_t timezone = NO_TIMEZONE);

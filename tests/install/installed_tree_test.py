@@ -25,6 +25,9 @@ caught 0
 SAVED = """1s to 2s: text
 Cannot read value of non-existent attribute.
 """
+VALUES = """2024-02-29T10:00:00Z -P1DT2H k:b 12:30:00
+1 0 1 0.5 P1Y2M 25
+"""
 
 
 def read_arguments():
@@ -78,6 +81,9 @@ class InstalledTree(unittest.TestCase):
         saved = run(program)
         self.assertIn(SAVED, saved)
         self.assertIn('<p begin="5s" end="2s">text</p>', saved)
+
+    def check_typed_values(self, program):
+        self.assertIn(VALUES, run(program, env=self.environment))
 
     # Headers.
 
@@ -147,12 +153,14 @@ class InstalledTree(unittest.TestCase):
             (C_PLAYER, [GIVEN.cc, *C99], flags),
             (HERE / "clients" / "cpp_player.cpp", [GIVEN.cxx, *CPP17], flags),
             (HERE / "clients" / "saving_tool.cpp", [GIVEN.cxx, *CPP17], both),
+            (HERE / "clients" / "typed_values.cpp", [GIVEN.cxx, *CPP17], both),
         ]
         for source, compiler, libraries in compilers:
             run(*compiler, *WARNINGS, source, *libraries, "-o", self.work / source.stem)
         run(self.work / C_PLAYER.stem)
         self.check_player(self.work / "cpp_player")
         self.check_saving_tool(self.work / "saving_tool")
+        self.check_typed_values(self.work / "typed_values")
 
     def test_clients_by_find_package(self):
         build = self.work / "clients"
@@ -166,6 +174,7 @@ class InstalledTree(unittest.TestCase):
         run(build / "c_player")
         self.check_player(build / "cpp_player")
         self.check_saving_tool(build / "saving_tool")
+        self.check_typed_values(build / "typed_values")
 
     # The functions.
 
