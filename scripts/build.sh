@@ -10,6 +10,14 @@ give_up() {
     exit 1
 }
 
+# For a script that takes no arguments: takes_none "$@".
+takes_none() {
+    [[ $# -eq 0 ]] || {
+        echo "usage: scripts/${0##*/}" >&2
+        exit 2
+    }
+}
+
 # present PACKAGE[=COMMAND]: whether the Debian package is installed, or its command comes from elsewhere.
 present() {
     local package=${1%%=*} command=${1#*=}
@@ -52,6 +60,10 @@ install_build_packages() {
     install_packages g++=g++ cmake=cmake ninja-build=ninja libxerces-c-dev libcli11-dev nlohmann-json3-dev libpng-dev
 }
 
+install_test_packages() {
+    install_packages libgtest-dev python3=python3 pkg-config=pkg-config
+}
+
 clang_sanitizes() {
     printf 'int main() { return 0; }\n' |
         clang++ -fsanitize=address,undefined -x c++ - -o /dev/null 2>/dev/null
@@ -72,13 +84,18 @@ install_sanitizers() {
     clang_sanitizes || give_up "clang++ does not link a program with AddressSanitizer"
 }
 
-# build FOLDER CMAKE-OPTION...: configures and builds in a folder of the checkout.
-build() {
+# configure FOLDER CMAKE-OPTION...: prepares a build in a folder of the checkout.
+configure() {
     local folder=$root/$1 generator=() options=("${@:2}")
     [[ -e $folder/CMakeCache.txt ]] || generator=(-G Ninja)
     if [[ ${CI:-} == true ]]; then
         options+=(-DXTTML_WARNINGS_AS_ERRORS=ON)
     fi
     cmake -S "$root" -B "$folder" "${generator[@]}" "${options[@]}" >&2
-    cmake --build "$folder" --parallel "$(nproc)" >&2
+}
+
+# build FOLDER CMAKE-OPTION...: configures and builds.
+build() {
+    configure "$@"
+    cmake --build "$root/$1" --parallel "$(nproc)" >&2
 }
