@@ -1,6 +1,6 @@
 """What a release build is hardened with is found in the finished files.
 
-Arguments: the library, the tool, a program that copies its argument into eight bytes, readelf.
+Arguments: the library, the tool, readelf, the command that runs a program which copies its argument into eight bytes.
 """
 
 import re
@@ -9,7 +9,7 @@ import subprocess
 import sys
 import unittest
 
-LIBRARY, TOOL, OVERLONG_COPY, READELF = sys.argv[1:]
+LIBRARY, TOOL, READELF, *OVERLONG_COPY = sys.argv[1:]
 
 
 def readelf(*arguments):
@@ -40,9 +40,9 @@ class Hardening(unittest.TestCase):
 
     def test_the_c_library_is_fortified(self):
         # asked of a program of its own: what the library hands to the C library depends on the compiler
-        self.assertIn("__strcpy_chk", imported(OVERLONG_COPY))
-        self.assertEqual(subprocess.run([OVERLONG_COPY, "short"], check=False).returncode, 0)
-        overlong = subprocess.run([OVERLONG_COPY, "x" * 9], stderr=subprocess.DEVNULL, check=False)
+        self.assertIn("__strcpy_chk", imported(OVERLONG_COPY[-1]))
+        self.assertEqual(subprocess.run([*OVERLONG_COPY, "short"], check=False).returncode, 0)
+        overlong = subprocess.run([*OVERLONG_COPY, "x" * 9], stderr=subprocess.DEVNULL, check=False)
         self.assertEqual(overlong.returncode, -signal.SIGABRT)
 
     def test_the_tool_is_loaded_anywhere(self):

@@ -83,7 +83,7 @@ class InstalledTree(unittest.TestCase):
         self.assertIn('<p begin="5s" end="2s">text</p>', saved)
 
     def check_typed_values(self, program):
-        self.assertIn(VALUES, run(program, env=self.environment))
+        self.assertIn(VALUES, run(program))
 
     # Headers.
 

@@ -205,7 +205,7 @@ class FailingOutput(unittest.TestCase):
 
     def test_closed(self):
         done = subprocess.run(
-            ["sh", "-c", '"$@" >&-', "sh", str(TOOL), "list", str(FORCED)], stderr=subprocess.PIPE, check=False
+            ["sh", "-c", '"$@" >&-', "sh", *TOOL, "list", str(FORCED)], stderr=subprocess.PIPE, check=False
         )
         self.check(done)
 

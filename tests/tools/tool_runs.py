@@ -1,4 +1,5 @@
-"""Runs the tool for the tests: its path is the last argument of the test program."""
+"""Runs the tool for the tests. The arguments of the test program are the command that runs it: its path, behind an
+emulator where it is built for another machine."""
 
 import json
 import os
@@ -8,7 +9,7 @@ import subprocess
 import sys
 import unittest
 
-TOOL = pathlib.Path(sys.argv[-1]).resolve() if len(sys.argv) > 1 else None
+TOOL = [*sys.argv[1:-1], str(pathlib.Path(sys.argv[-1]).resolve())]
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 EXAMPLES = ROOT / "examples"
 
@@ -40,7 +41,7 @@ def document(*paragraphs, root=""):
 def run(*arguments, data=None, output=subprocess.PIPE, **options):
     """Runs the tool; fails on a sanitizer report, a signal and a line of the library on standard output."""
     done = subprocess.run(
-        [str(TOOL), *map(str, arguments)],
+        [*TOOL, *map(str, arguments)],
         input=b"" if data is None else data,
         stdout=output,
         stderr=subprocess.PIPE,
