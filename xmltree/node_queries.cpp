@@ -10,16 +10,17 @@ using xercesc::DOMNode;
 
 namespace {
 
+/// Whether an attribute's local name, null for none, may be the one sought, by its first character alone.
+/// Most are not.
+bool MayBe(const XMLCh* name, const char* sought) {
+    const auto first = static_cast<unsigned char>(*sought);
+    return !name || *name == first || first > 0x7F;
+}
+
 bool HasName(const DOMNode* attribute, const char* namespaceURI, const char* localName) {
     const XMLCh* name = attribute->getLocalName();
     return (IsTranscoded(name, localName) || (!name && IsTranscoded(attribute->getNodeName(), localName))) &&
            IsTranscoded(attribute->getNamespaceURI(), namespaceURI);
-}
-
-/// Whether an attribute's local name, null for none, may be the one sought by its first character alone.
-bool MayBe(const XMLCh* name, const char* sought) {
-    const auto first = static_cast<unsigned char>(*sought);
-    return !name || *name == first || first > 0x7F;
 }
 
 /// The first attribute of a node that is accepted; null when there is none. Nodes are asked for attributes
@@ -115,7 +116,6 @@ DOMNode* XercesTreeOperations::FindAttribute(const DOMNode* node, const char* na
         node, [=](const DOMNode* attribute) { return HasName(attribute, namespaceURI, localName); });
 }
 
-// Most names end at their first character.
 void XercesTreeOperations::FindAttributes(const DOMNode* node, SoughtAttribute* sought, std::size_t count) {
     std::size_t missing = count;
     FirstAttribute(node, [=, &missing](const DOMNode* attribute) {

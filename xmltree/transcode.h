@@ -40,7 +40,7 @@ private:
     std::unique_ptr<XMLCh, Release> rawTranscode;
 };
 
-/// Whether `utf16` is the transcoded rest of a name, `chars`, which begins with a character that is not
+/// Whether `utf16` is the transcoded rest of a string, `chars`, which begins with a character that is not
 /// ASCII.
 bool IsTranscodedRest(const XMLCh* utf16, const char* chars);
 
@@ -50,12 +50,12 @@ inline bool IsTranscoded(const XMLCh* utf16, const char* chars) {
     if (!utf16 || !chars) {
         return (!utf16 || !*utf16) && (!chars || !*chars);
     }
-    const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
-    while (*utf16 && isAscii(*chars) && *utf16 == static_cast<XMLCh>(*chars)) {
+    const auto ascii = [](char c) { return static_cast<signed char>(c); }; // negative for any other
+    while (ascii(*chars) > 0 && *utf16 == static_cast<XMLCh>(*chars)) {
         ++utf16;
         ++chars;
     }
-    return isAscii(*chars) ? !*utf16 && !*chars : IsTranscodedRest(utf16, chars);
+    return (!*utf16 && !*chars) || (ascii(*chars) < 0 && IsTranscodedRest(utf16, chars));
 }
 
 /// The 8-bit copy of a 16-bit string: the low 8 bits of every code unit.

@@ -7,11 +7,12 @@
 //
 // An edit of a null node throws tessera::InvalidOperationException. On a node of a type that has no such
 // children, attributes or value, a removal and SetValue(node, value) do nothing; every other edit throws
-// xercesc::DOMException (HIERARCHY_REQUEST_ERR, or NO_MODIFICATION_ALLOWED_ERR inside an entity reference).
+// xercesc::DOMException: HIERARCHY_REQUEST_ERR, and NO_MODIFICATION_ALLOWED_ERR inside an entity reference.
 //
-// What an edit writes under a prefix loads again in the same namespace, and so does what was there before: a
-// prefix in scope is taken, and one that is given is kept, unless it stands for another namespace at the
-// element, by a declaration or by a name there or above. Then an unused one is made from it.
+// What an edit writes loads again in the same namespaces when it is saved, and so does what was there before:
+// a prefix that is in scope for a namespace is taken and one that is given is kept only if it does not stand
+// for another namespace at the element, by a declaration or by a name there or above. Else an unused one is
+// made from it.
 //
 // Unless a function says otherwise it passes on what the XML library throws: xercesc::DOMException for a
 // refused edit, xercesc::OutOfMemoryException.
