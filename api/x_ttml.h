@@ -9,19 +9,34 @@
  *  1. Handles. A parser handle comes from x_ttml_create_new_parser() and ends with
  *     x_ttml_delete_parser(). Null is the only invalid handle that is recognised; every function says what
  *     it does with it.
- *  2. Errors. A load gives a status: X_TTML_OK, X_TTML_UNUSABLE or X_TTML_NULL_HANDLE. No function catches
- *     an exception. Only these let one pass on bad input, and a player that cannot receive C++ exceptions
- *     needs a guard around them: x_ttml_load_subtitle_from_file() for a file that cannot be read or is not
- *     well-formed XML; the two generators for attributes that do not convert. Out of memory ends in
- *     std::bad_alloc.
- *  3. Ownership. The parser owns its display items and its copy of the image data; both live until it is
+ *  2. One document a handle. Items, styles and regions of a parser are only ever added to: a second document
+ *     on the same handle comes after the items of the first, and of two styles or regions with one xml:id
+ *     the earlier counts. Make a new parser for a new document.
+ *  3. Errors. A load gives a status: X_TTML_OK, X_TTML_UNUSABLE or X_TTML_NULL_HANDLE.
+ *     x_ttml_load_subtitle_from_data() catches whatever is thrown; the other functions catch nothing. On bad
+ *     input only these throw: x_ttml_load_subtitle_from_file() for a file that cannot be read or is not
+ *     well-formed XML; the two generators for an attribute that does not convert or is missing. A player
+ *     that cannot receive C++ exceptions calls them through a guard of its own (README.md shows one).
+ *  4. Memory. Lack of it ends in std::bad_alloc, but for the loads: from memory, in X_TTML_UNUSABLE; from a
+ *     file, also in tessera::DataSourceUnavailableException or in the XML library's own
+ *     xercesc::OutOfMemoryException, which is no std::exception. x_ttml_init_xerces() throws that as well
+ *     and must not be called again then; or the XML library ends the process. Queries by time,
+ *     x_ttml_destory_doc() and x_ttml_delete_parser() need no memory.
+ *  5. Ownership. The parser owns its display items and its copy of the image data; both live until it is
  *     deleted. The caller keeps every buffer that it passes in. A loaded document is released by
- *     x_ttml_destory_doc() alone: call it before loading another one and before deleting the parser.
- *  4. Times are milliseconds of media time, sizes are pixels, buffer sizes are bytes.
- *  5. Output. The library writes progress and failure lines to standard output; the functions themselves
- *     print nothing.
- *  6. Threads. Nothing locks. A handle belongs to one thread at a time; different handles share only the
- *     XML library, whose initialisation and termination are process-wide.
+ *     x_ttml_destory_doc() alone: call it before loading again and before deleting the parser.
+ *  6. Units. Times are milliseconds of media time, sizes are pixels, buffer sizes are bytes.
+ *  7. Output. The library writes progress and failure lines to standard output while it initialises, loads,
+ *     generates, releases and deletes: "load from file ok", the number of each font size and line height, the
+ *     document's times and language. They quote the document, control characters included. This interface
+ *     adds no line of its own; queries by time write none.
+ *  8. Threads. Nothing locks. A handle belongs to one thread at a time; different handles share only the XML
+ *     library. x_ttml_init_xerces(), x_ttml_uninit_xerces() and x_ttml_load_subtitle_from_file() change its
+ *     count of initialisations: call x_ttml_init_xerces() before other threads start, and none of the three
+ *     in two threads at a time. Lines of two threads may alternate. A thread must not be cancelled inside the
+ *     library.
+ *  9. Trust. Unless the library was built with XTTML_UNTRUSTED_XML, a document may have a document type
+ *     declaration: what that names is read, from files and from the network, and entities are expanded.
  *
  * Order of calls
  *
@@ -71,69 +86,94 @@ enum { X_TTML_DISPLAY_ITEM_SLOTS = 4 };
 
 /** Makes a parser.
  * @param handle where the handle is stored; must be valid. Null is stored when no parser was made.
- * @return X_TTML_OK, or X_TTML_NULL_HANDLE when no parser was made. Throws std::bad_alloc. */
+ * @return X_TTML_OK, or X_TTML_NULL_HANDLE when no parser was made */
 XTTML_API int x_ttml_create_new_parser(x_ttml_handle *handle);
 
 /** Deletes a parser with its items and its image data, not the document that it holds.
  * @return X_TTML_OK; X_TTML_NULL_HANDLE for a null handle */
 XTTML_API int x_ttml_delete_parser(x_ttml_handle handle);
 
-/** Loads a document from a file; initialises the XML library by itself.
- * @param path zero-terminated, in the process's local character set
+/** Loads a document from a file. Initialises the XML library once more, which counts and needs its
+ * x_ttml_uninit_xerces() even when the load fails or throws.
+ * @param path zero-terminated, in the process's local character set; a system identifier, so that an address
+ *        (file:, http:) is fetched and its %20 is a space, while a plain path is taken as it is; null reads
+ *        as empty, which is no file
  * @return X_TTML_OK; X_TTML_UNUSABLE when the document has no tt root element (it is held all the same);
  *         X_TTML_NULL_HANDLE for a null handle. Throws tessera::DataSourceUnavailableException when the
  *         file cannot be read or is not well-formed; the parser is then as it was. */
 XTTML_API int x_ttml_load_subtitle_from_file(x_ttml_handle handle, const char *path);
 
-/** Loads a document from memory; x_ttml_init_xerces() must have run.
- * @param data the bytes of the document, read during the call only
+/** Loads a document from memory; x_ttml_init_xerces() must have run. Throws nothing.
+ * @param data the bytes of the document, read during the call only; null reads as no bytes
  * @param size their count
  * @return X_TTML_OK; X_TTML_UNUSABLE when the document has no tt root element (it is held all the same) or
  *         could not be parsed (the parser is then as it was); X_TTML_NULL_HANDLE for a null handle */
 XTTML_API int x_ttml_load_subtitle_from_data(x_ttml_handle handle, const void *data, uint32_t size);
 
 /** Appends one item for each paragraph of the document's first division to the display sequence.
- * @param offset ms added to every begin and end time
+ * @param offset ms added to every begin and end time, to the -1 of an unknown time as well
  * A null handle does nothing. Throws tessera::ConversionException for an attribute that does not convert
  * (forcedDisplayMode, ttp:frameRate); the items appended so far stay. */
 XTTML_API void x_ttml_generate_text_display_item_sequence(x_ttml_handle handle, int32_t offset);
 
-/** Appends one item for each division with an image to the display sequence; needs the image data.
- * @param offset ms added to every begin and end time
+/** Appends one item for each division with an image to the display sequence. Without image data it does
+ * nothing.
+ * @param offset ms added to every begin and end time, to the -1 of an unknown time as well
  * A null handle does nothing. Throws tessera::InvalidOperationException for a division without begin or end
  * and tessera::ConversionException for an attribute that does not convert; the items appended so far stay. */
 XTTML_API void x_ttml_generate_image_display_item_sequence(x_ttml_handle handle, int32_t offset);
 
-/** The item on screen at a time, else the next to come in sequence order.
- * @return the item, owned by the parser; null when there is none or for a null handle */
+/** The first item in sequence order that is on screen at a time, else the next to come: the first in sequence
+ * order whose begin, as an unsigned number, is greater than the time. DisplayItem::fgCheckTimeInfo() tells
+ * which of the two it is. An item that overlaps an earlier one is the answer only once that has gone.
+ *
+ * An item without a begin (-1) is on screen up to its end and after that counts as still to come, later than
+ * any other time: it is an answer for ever, and stands before what comes next when it is first in sequence.
+ * @param time ms; from 2^31 on it is compared with the spans of items as a negative number: on screen can
+ *        then be only an item without a begin or one that an offset has moved below 0
+ * @return the item, owned by the parser, on which x_ttml_combine_same_time_item() then works; null when there
+ *         is none or for a null handle */
 XTTML_API DisplayItem *x_ttml_get_display_item_by_time(x_ttml_handle handle, uint32_t time);
 
-/** The item on screen at a time (or the next to come) and up to three items right after it in the sequence
- * that share its begin and end.
+/** The same item and up to three right after it in the sequence that share its begin and end.
  * @param items room for X_TTML_DISPLAY_ITEM_SLOTS pointers, owned by the parser; unused slots are null, for
- *        a null handle all of them */
+ *        a null handle all of them
+ * @param time ms, as for x_ttml_get_display_item_by_time() */
 XTTML_API void x_ttml_get_display_item_array_by_time(x_ttml_handle handle, DisplayItem **items,
                                                      uint32_t time);
 
-/** Merges the text of the items right after the last answer of x_ttml_get_display_item_by_time() that share
- * its times into that answer. A second call merges nothing again.
- * @return that item; null when nothing has been generated or for a null handle */
+/** Merges the items right after the last answer of x_ttml_get_display_item_by_time() that share its begin and
+ * end into that answer: a U+000A and their vecContent each are appended to its vecContent, and fgCombined is
+ * set, after which a further call merges nothing. The runs stay as they are, and generated content is nothing
+ * but a U+000A for each br element directly in a paragraph: to merge the text that is seen, a player puts the
+ * text of each item's runs into its vecContent first.
+ * @return that item, also when nothing is merged, as for images; the first item after an answer of null and
+ *         before any query; null when nothing has been generated or for a null handle */
 XTTML_API DisplayItem *x_ttml_combine_same_time_item(x_ttml_handle handle);
 
-/** The earliest begin and the latest end of the generated items, in ms.
- * @param start, end where the times are stored; must be valid. Both are -1 for a null handle and before the
- *        first generation; an end of -1 also says that an item has no end, a start of -1 that none begins. */
+/** The earliest begin and the latest end in ms: of the items of a text generation, or of all the parser's
+ * items after an image generation. They are compared as unsigned numbers, by which -1 is the latest of all.
+ * A generation without a body, a division or image data leaves them as they were; after one that threw they
+ * mean nothing.
+ * @param start where the begin is stored; must be valid. -1: no item, or none with a begin.
+ * @param end where the end is stored; must be valid. -1: an item has no end; 0: no item. With an offset an
+ *        item without an end ends at offset - 1 and no longer shows as -1, nor does one without a begin.
+ * Both are -1 for a null handle and before the first generation. */
 XTTML_API void x_ttml_get_document_time(x_ttml_handle handle, int32_t *start, int32_t *end);
 
-/** The size of the root container in px.
- * @param width, height where the size is stored; must be valid. Both are 0 for a null handle and before the
- *        first generation; 1024 and 768 for a document that gives no size in pixels. */
+/** The size of the root container in px. Both are 0 for a null handle and before the first generation, 1024
+ * and 768 for a document that gives no size in pixels.
+ * @param width where the width is stored; must be valid
+ * @param height where the height is stored; must be valid */
 XTTML_API void x_ttml_get_tt_extent(x_ttml_handle handle, int32_t *width, int32_t *height);
 
-/** Hands over the block of PNG files that belongs to image subtitles; the parser copies it.
- * @param buffer the files, one after the other
- * @param size their bytes; below 1 the copy held so far stays
- * A null handle does nothing. */
+/** Hands over the block of PNG files that belongs to image subtitles; the parser copies it in place of the
+ * copy held so far. Items that point into an earlier copy keep it.
+ * @param buffer the files, one after the other, of which the first 30 can be shown; null leaves the copy
+ * @param size their bytes; 0 and below leave the copy
+ * The size is stored in any case, and the next generation takes the copy for that long, though never beyond
+ * its end; for 0 and below the item of picture 1 has data and that size, all others have none. A null handle
+ * does nothing. */
 XTTML_API void x_ttml_set_document_buffer_info(x_ttml_handle handle, const char *buffer, int32_t size);
 
 /** The player's own tag; 0 until it is set and for a null handle. */
@@ -145,7 +185,7 @@ XTTML_API void x_ttml_set_subtitle_type(x_ttml_handle handle, int type);
 /** Releases the loaded document; the items stay. A null handle does nothing. */
 XTTML_API void x_ttml_destory_doc(x_ttml_handle handle);
 
-/** Initialises the XML library, once in the process, before the first load from memory. */
+/** Initialises the XML library, before the first load from memory and before other threads start. */
 XTTML_API void x_ttml_init_xerces(void);
 
 /** Terminates the XML library after the last document has been released. Every initialisation, those of

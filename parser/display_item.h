@@ -38,7 +38,8 @@ public:
     DisplayItem(const DisplayItem&) = delete;
     DisplayItem& operator=(const DisplayItem&) = delete;
 
-    /// Stores both times in ms as they are; -1 marks an unknown time.
+    /// Stores both times in ms as they are; -1 marks an unknown time. Queries go by the times that an item
+    /// had when a generation last ended: they do not see what is stored afterwards.
     void vSetTime(std::int32_t iBegin, std::int32_t iEnd);
     /// The first millisecond on screen.
     std::int32_t iGetBeginTime() const { return iBeginTime; }
@@ -64,7 +65,7 @@ public:
     /// Deletes the sentences.
     ~TextItem() override;
 
-    /// Copies a text into strContent.
+    /// Copies a text into strContent, which the library neither fills nor reads.
     void vSetContent(const std::string& strText);
     /// strContent, owned by the item; also writes it and a line end to standard output.
     std::string* pstrGetContent();
@@ -79,9 +80,11 @@ public:
     /// The styled runs in document order, to read.
     const std::vector<Sentence*>* pGetSentenceSeq() const { return &vecSentence; }
 
-    bool fgCombined;                    ///< other items' content has been merged into vecContent
-    std::string strContent;             ///< plain content; empty unless set with vSetContent()
-    std::vector<char16_t> vecContent;   ///< UTF-16 content that merging reads and extends
+    bool fgCombined;        ///< other items' content has been merged into vecContent
+    std::string strContent; ///< plain content; empty unless set with vSetContent()
+    /// UTF-16 content that merging reads and extends; generated with one U+000A for each br element directly
+    /// in the paragraph and nothing else.
+    std::vector<char16_t> vecContent;
     std::vector<Sentence*> vecSentence; ///< the styled runs, owned
 };
 
@@ -104,7 +107,7 @@ public:
 
     std::string strImageURI;        ///< an image reference that a caller may store
     const std::uint8_t* pImageData; ///< the image data, borrowed; null: none
-    std::int32_t iImageDataSize;    ///< its length in bytes; 0: none
+    std::int32_t iImageDataSize; ///< its length in bytes; 0 or negative: nothing to read, whatever pImageData
 };
 
 #endif

@@ -115,7 +115,7 @@ public:
     /// The earliest begin of the items in ms, compared unsigned; -1: none.
     std::int32_t iGetDocumentStartTime() const { return iDocumentStartTime_; }
     /// The latest end of the items in ms, compared unsigned; -1: before the first generation, or an item
-    /// without an end.
+    /// without an end; 0: no item.
     std::int32_t iGetDocumentEndTime() const { return iDocumentEndTime_; }
     /// The root container in px; 0 before the first generation.
     std::int32_t iGetExtentWidth() const { return iExtentWidth_; }

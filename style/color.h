@@ -17,8 +17,8 @@ struct RgbaColor {
 };
 
 /// Reads a run of decimal digits out of a text.
-/// @param iFirst, iLast positions of the first and last character; a position outside the text counts as a
-///        character that is no digit; an empty range (iFirst > iLast) gives true and 0
+/// @param iFirst the position of the first character; one outside the text counts as no digit
+/// @param iLast the position of the last character; an empty range (iFirst > iLast) gives true and 0
 /// @param iValue set to the number; 255 when a character is no digit; the largest int when the number
 ///        exceeds it
 /// @return whether every character of the range is a digit
