@@ -1,4 +1,5 @@
-# The warnings every target is built with (a build that includes this one sets its own), and the sanitizers and line counters when asked for.
+# The warnings every target is built with (a build that includes this one sets its own), and the sanitizers and line
+# counters when asked for.
 if(XTTML_ON_ITS_OWN)
   add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 endif()

@@ -53,7 +53,8 @@ class PkgConfigFile(unittest.TestCase):
         (file.parent / "xerces-c.pc").write_text("Name: xerces-c\nDescription: none\nVersion: 3.2.0\nCflags: -DXERCES\n")
         environment = {**os.environ, "PKG_CONFIG_LIBDIR": str(file.parent), "PKG_CONFIG_PATH": ""}
         command = ["pkg-config", *questions, "xttml"]
-        return shlex.split(subprocess.run(command, env=environment, stdout=subprocess.PIPE, text=True, check=True).stdout)
+        answer = subprocess.run(command, env=environment, stdout=subprocess.PIPE, text=True, check=True).stdout
+        return shlex.split(answer)
 
     def test_directories(self):
         for libdir, includedir, flags in CASES:
