@@ -1,4 +1,5 @@
-// White space and facet checks (XML Schema Part 2, 4.3) over the facet table of a document model.
+// White space and facet checks (XML Schema Part 2, 4.3) over the facet table of a document model. Nothing
+// here throws.
 #ifndef XTTML_RUNTIME_FACETS_H
 #define XTTML_RUNTIME_FACETS_H
 

@@ -1,4 +1,4 @@
-// Qualified names (Namespaces in XML 1.0).
+// Qualified names (Namespaces in XML 1.0). Nothing here throws.
 #ifndef XTTML_RUNTIME_QNAME_H
 #define XTTML_RUNTIME_QNAME_H
 
