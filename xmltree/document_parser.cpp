@@ -6,26 +6,31 @@
 #include <xercesc/util/XMLString.hpp>
 
 // The nodes behind the DOM's interfaces, for parsers that make nodes of their own.
-#include <xercesc/dom/impl/DOMAttrImpl.hpp>
+#include <xercesc/dom/impl/DOMAttrNSImpl.hpp>
 #include <xercesc/dom/impl/DOMDocumentImpl.hpp>
-#include <xercesc/dom/impl/DOMElementImpl.hpp>
+#include <xercesc/dom/impl/DOMElementNSImpl.hpp>
 #include <xercesc/dom/impl/DOMNodeVector.hpp>
 #include <xercesc/dom/impl/DOMTextImpl.hpp>
 
-using xercesc::DOMAttrImpl;
-using xercesc::DOMAttrMapImpl;
-using xercesc::DOMChildNode;
-using xercesc::DOMElementImpl;
-using xercesc::DOMNode;
-using xercesc::DOMNodeVector;
-using xercesc::DOMParentNode;
-using xercesc::DOMTextImpl;
-using xercesc::XMLAttr;
-using xercesc::XMLElementDecl;
-using xercesc::XMLString;
-using xercesc::XMLUni;
+using namespace xercesc;
 
 namespace {
+
+/// Reaches what nodes keep for the classes derived from them.
+template <class Node>
+struct Open : Node {
+    static Node& CopyNames(const Node& from, Node& to) {
+        to.fName = from.fName;
+        const auto copy = [&](auto name) { to.*name = from.*name; };
+        copy(&Open::fNamespaceURI);
+        copy(&Open::fLocalName);
+        copy(&Open::fPrefix);
+        return to;
+    }
+};
+struct OpenMap : DOMAttrMapImpl {
+    static DOMNodeVector& NodesOf(DOMAttrMapImpl& map) { return *(map.*&OpenMap::fNodes); }
+};
 
 /// The element that a node is, or null.
 DOMElementImpl* ElementAt(DOMNode* node) {
@@ -34,14 +39,9 @@ DOMElementImpl* ElementAt(DOMNode* node) {
 
 /// What links an element or a text to its siblings; null for a rarer kind of node.
 DOMChildNode* LinksOf(DOMNode* node) {
-    switch (node->getNodeType()) {
-    case DOMNode::ELEMENT_NODE:
-        return &static_cast<DOMElementImpl*>(node)->fChild;
-    case DOMNode::TEXT_NODE:
-        return &static_cast<DOMTextImpl*>(node)->fChild;
-    default:
-        return nullptr;
-    }
+    const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
+    DOMElementImpl* const element = ElementAt(node);
+    return isText ? &static_cast<DOMTextImpl*>(node)->fChild : element ? &element->fChild : nullptr;
 }
 
 template <class Node>
@@ -50,53 +50,34 @@ void Own(DOMNode* owner, Node& node) {
     node.fNode.isOwned(true);
 }
 
-// A first child is marked as such, and the last child is its previous sibling.
-
-template <class Child>
-void LinkFirst(DOMParentNode& parent, Child& child) {
-    Own(parent.fContainingNode, child);
-    child.fNode.isFirstChild(true);
-    child.fChild.previousSibling = &child;
-    parent.fFirstChild = &child;
-}
-
-template <class Child>
-void LinkLast(const DOMParentNode& parent, DOMChildNode& first, DOMChildNode& last, Child& child) {
-    Own(parent.fContainingNode, child);
-    child.fChild.previousSibling = first.previousSibling;
-    last.nextSibling = &child;
-    first.previousSibling = &child;
-}
-
+/// A first child is marked as such, and the last child is its previous sibling.
 template <class Child>
 void Append(DOMParentNode& parent, Child& child) {
-    if (!parent.fFirstChild) {
-        LinkFirst(parent, child);
+    const bool isFirst = !parent.fFirstChild;
+    DOMChildNode* const first = isFirst ? &child.fChild : LinksOf(parent.fFirstChild);
+    DOMChildNode* const last = isFirst || !first ? first : LinksOf(first->previousSibling);
+    if (!last) {
+        parent.appendChildFast(&child);
         return;
     }
-    DOMChildNode* const first = LinksOf(parent.fFirstChild);
-    DOMChildNode* const last = first ? LinksOf(first->previousSibling) : nullptr;
-    if (last) {
-        LinkLast(parent, *first, *last, child);
+    Own(parent.fContainingNode, child);
+    if (isFirst) {
+        child.fNode.isFirstChild(true);
+        parent.fFirstChild = &child;
     } else {
-        parent.appendChildFast(&child);
+        child.fChild.previousSibling = first->previousSibling;
+        last->nextSibling = &child;
     }
-}
-
-/// Opens what a map of attributes keeps to itself.
-struct OpenAttributes : DOMAttrMapImpl {
-    static DOMNodeVector& NodesOf(DOMAttrMapImpl& map) { return *(map.*&OpenAttributes::fNodes); }
-};
-
-/// Puts an attribute into its place by name. The scanner refuses a second one of the same name.
-void Insert(DOMElementImpl& element, DOMAttrImpl& attribute) {
-    const int place = element.fAttributes->findNamePoint(attribute.fName);
-    Own(&element, attribute);
-    OpenAttributes::NodesOf(*element.fAttributes)
-        .insertElementAt(&attribute, static_cast<XMLSize_t>(-1 - place));
+    first->previousSibling = &child;
 }
 
 } // namespace
+
+void DocumentParser::startDocument() {
+    elements_.clear();
+    attributes_.clear();
+    XercesDOMParser::startDocument();
+}
 
 void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) {
     const bool isNewText = !isCdata && fCurrentNode->getNodeType() != DOMNode::TEXT_NODE;
@@ -105,31 +86,31 @@ void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bo
         XercesDOMParser::docCharacters(characters, length, isCdata);
         return;
     }
-    xercesc::DOMText* const text = createText(characters, length);
-    Append(parent->fParent, static_cast<DOMTextImpl&>(*text));
-    fCurrentNode = text;
+    fCurrentNode = createText(characters, length);
+    Append(parent->fParent, *static_cast<DOMTextImpl*>(fCurrentNode));
 }
 
 void DocumentParser::startElement(const XMLElementDecl& declaration, unsigned int namespaceId,
-                                  const XMLCh* prefix, const xercesc::RefVectorOf<XMLAttr>& attributes,
+                                  const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
                                   XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
-    DOMElementImpl* const parent = declaration.hasAttDefs() ? nullptr : ElementAt(fCurrentParent);
+    DOMElementImpl* const parent = fDocumentType ? nullptr : ElementAt(fCurrentParent);
     if (!parent) {
         XercesDOMParser::startElement(declaration, namespaceId, prefix, attributes, attributeCount, isEmpty,
                                       isRoot);
         return;
     }
-    auto& element = static_cast<DOMElementImpl&>(*createElementNS(
-        NamespaceOf(namespaceId), prefix, declaration.getBaseName(), declaration.getFullName()));
+    const XMLCh* const name = declaration.getFullName();
+    auto& element = MakeNamed<DOMElementNSImpl>(elements_, namespaceId, name, [&] {
+        return createElementNS(fScanner->getURIText(namespaceId), prefix, declaration.getBaseName(), name);
+    });
     if (attributeCount > 0) {
         element.fAttributes->reserve(attributeCount);
     }
     for (XMLSize_t i = 0; i < attributeCount; ++i) {
-        Insert(element, static_cast<DOMAttrImpl&>(*MakeAttribute(*attributes.elementAt(i))));
+        AddAttribute(&element, *attributes.elementAt(i));
     }
     Append(parent->fParent, element);
-    fCurrentParent = &element;
-    fCurrentNode = &element;
+    fCurrentParent = fCurrentNode = &element;
     if (isEmpty) {
         endElement(declaration, namespaceId, isRoot, prefix);
     }
@@ -143,25 +124,36 @@ void DocumentParser::endElement(const XMLElementDecl& declaration, unsigned int 
         XercesDOMParser::endElement(declaration, namespaceId, isRoot, prefix);
         return;
     }
-    fCurrentNode = fCurrentParent;
-    fCurrentParent = parent;
+    fCurrentNode = std::exchange(fCurrentParent, parent);
 }
 
-/// Null for no namespace.
-const XMLCh* DocumentParser::NamespaceOf(unsigned int id) const {
-    return id == fScanner->getEmptyNamespaceId() ? nullptr : fScanner->getURIText(id);
-}
-
-/// An attribute with its value, not yet an element's.
-xercesc::DOMAttr* DocumentParser::MakeAttribute(const XMLAttr& attribute) {
-    const XMLCh* const name = attribute.getName();
-    const XMLCh* const prefix = attribute.getPrefix();
-    const bool isDefaultNamespace = (!prefix || !*prefix) && XMLString::equals(name, XMLUni::fgXMLNSString);
-    const unsigned int namespaceId =
-        isDefaultNamespace ? fScanner->getXMLNSNamespaceId() : attribute.getURIId();
-    xercesc::DOMAttr* const node = createAttrNS(NamespaceOf(namespaceId), prefix, name, attribute.getQName());
-    const XMLCh* const value = attribute.getValue();
-    xercesc::DOMText* const text = createText(value, XMLString::stringLen(value));
-    Append(static_cast<DOMAttrImpl*>(node)->fParent, static_cast<DOMTextImpl&>(*text));
+/// A node with the names of a known one or, the first time, the one that `make` makes.
+template <class Node, class Make>
+Node& DocumentParser::MakeNamed(Known& known, unsigned int namespaceId, const XMLCh* name, Make&& make) {
+    for (const auto& [id, node] : known) {
+        const Node& model = *static_cast<const Node*>(node);
+        if (id == namespaceId && XMLString::equals(model.fName, name)) {
+            return Open<Node>::CopyNames(model, *new (fDocument) Node(fDocument, nullptr));
+        }
+    }
+    auto& node = *static_cast<Node*>(make());
+    if (known.size() < 16) { // subtitles use no more, and a search has to stay short
+        known.emplace_back(namespaceId, &node);
+    }
     return node;
+}
+
+void DocumentParser::AddAttribute(DOMElement* element, const XMLAttr& attribute) {
+    const XMLCh* const name = attribute.getQName();
+    auto& node = MakeNamed<DOMAttrNSImpl>(attributes_, attribute.getURIId(), name, [&] {
+        const bool isDefaultNamespace = XMLString::equals(name, XMLUni::fgXMLNSString);
+        const unsigned int id = isDefaultNamespace ? fScanner->getXMLNSNamespaceId() : attribute.getURIId();
+        return createAttrNS(fScanner->getURIText(id), attribute.getPrefix(), attribute.getName(), name);
+    });
+    DOMText* const text = createText(attribute.getValue(), XMLString::stringLen(attribute.getValue()));
+    Append(node.fParent, *static_cast<DOMTextImpl*>(text));
+    Own(element, node);
+    DOMAttrMapImpl& map = *static_cast<DOMElementImpl*>(element)->fAttributes;
+    const int place = map.findNamePoint(name); // negative: not there; the scanner refuses a second one
+    OpenMap::NodesOf(map).insertElementAt(&node, static_cast<XMLSize_t>(place < 0 ? -1 - place : place));
 }

@@ -4,15 +4,19 @@
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
+#include <utility>
+#include <vector>
+
 #ifdef XTTML_LINKS_NODES
 
-/// Links elements, their attributes and texts itself. The XML library asks by dynamic_cast, several times for
-/// every node, what kind of node it is, which takes more than a third of a parse. The rarer kinds of nodes,
-/// and all that a document type has a part in, are left to it. Namespaces have to be on.
+/// Makes and links elements, attributes and texts itself: the XML library asks by dynamic_cast what each node
+/// is, again and again, and looks up every name in a pool, which takes half of a parse. Rarer nodes and
+/// documents with a type are left to it. Namespaces have to be on.
 class DocumentParser : public xercesc::XercesDOMParser {
 public:
     using XercesDOMParser::XercesDOMParser;
 
+    void startDocument() override;
     void docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) override;
     void startElement(const xercesc::XMLElementDecl& declaration, unsigned int namespaceId,
                       const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
@@ -21,10 +25,15 @@ public:
                     const XMLCh* prefix) override;
 
 private:
-    const XMLCh* NamespaceOf(unsigned int id) const;
-    xercesc::DOMAttr* MakeAttribute(const xercesc::XMLAttr& attribute);
-};
+    /// Nodes of one kind by the identifiers of their namespaces, one a name: their names serve the next ones.
+    using Known = std::vector<std::pair<unsigned int, const xercesc::DOMNode*>>;
+    template <class Node, class Make>
+    Node& MakeNamed(Known& known, unsigned int namespaceId, const XMLCh* name, Make&& make);
+    void AddAttribute(xercesc::DOMElement* element, const xercesc::XMLAttr& attribute);
 
+    Known elements_;
+    Known attributes_;
+};
 #else
 using DocumentParser = xercesc::XercesDOMParser;
 #endif
