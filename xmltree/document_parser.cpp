@@ -44,6 +44,12 @@ DOMChildNode* LinksOf(DOMNode* node) {
     return isText ? &static_cast<DOMTextImpl*>(node)->fChild : element ? &element->fChild : nullptr;
 }
 
+/// A text in a buffer of its length, not 15 characters longer: the buffer that was released last is taken.
+DOMTextImpl& MakeText(DOMDocumentImpl* document, const XMLCh* characters, XMLSize_t length) {
+    document->releaseBuffer(new (document) DOMBuffer(document, length + 1));
+    return *new (document) DOMTextImpl(document, characters, length);
+}
+
 template <class Node>
 void Own(DOMNode* owner, Node& node) {
     node.fNode.fOwnerNode = owner;
@@ -86,27 +92,27 @@ void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bo
         XercesDOMParser::docCharacters(characters, length, isCdata);
         return;
     }
-    fCurrentNode = createText(characters, length);
-    Append(parent->fParent, *static_cast<DOMTextImpl*>(fCurrentNode));
+    DOMTextImpl& text = MakeText(fDocument, characters, length);
+    Append(parent->fParent, text);
+    fCurrentNode = &text;
 }
 
 void DocumentParser::startElement(const XMLElementDecl& declaration, unsigned int namespaceId,
                                   const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
-                                  XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
+                                  XMLSize_t count, bool isEmpty, bool isRoot) {
     DOMElementImpl* const parent = fDocumentType ? nullptr : ElementAt(fCurrentParent);
     if (!parent) {
-        XercesDOMParser::startElement(declaration, namespaceId, prefix, attributes, attributeCount, isEmpty,
-                                      isRoot);
+        XercesDOMParser::startElement(declaration, namespaceId, prefix, attributes, count, isEmpty, isRoot);
         return;
     }
     const XMLCh* const name = declaration.getFullName();
     auto& element = MakeNamed<DOMElementNSImpl>(elements_, namespaceId, name, [&] {
         return createElementNS(fScanner->getURIText(namespaceId), prefix, declaration.getBaseName(), name);
     });
-    if (attributeCount > 0) {
-        element.fAttributes->reserve(attributeCount);
+    if (count > 0) {
+        element.fAttributes->reserve(count);
     }
-    for (XMLSize_t i = 0; i < attributeCount; ++i) {
+    for (XMLSize_t i = 0; i < count; ++i) {
         AddAttribute(&element, *attributes.elementAt(i));
     }
     Append(parent->fParent, element);
@@ -150,8 +156,8 @@ void DocumentParser::AddAttribute(DOMElement* element, const XMLAttr& attribute)
         const unsigned int id = isDefaultNamespace ? fScanner->getXMLNSNamespaceId() : attribute.getURIId();
         return createAttrNS(fScanner->getURIText(id), attribute.getPrefix(), attribute.getName(), name);
     });
-    DOMText* const text = createText(attribute.getValue(), XMLString::stringLen(attribute.getValue()));
-    Append(node.fParent, *static_cast<DOMTextImpl*>(text));
+    const XMLCh* const value = attribute.getValue();
+    Append(node.fParent, MakeText(fDocument, value, XMLString::stringLen(value)));
     Own(element, node);
     DOMAttrMapImpl& map = *static_cast<DOMElementImpl*>(element)->fAttributes;
     const int place = map.findNamePoint(name); // negative: not there; the scanner refuses a second one

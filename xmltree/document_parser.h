@@ -20,7 +20,7 @@ public:
     void docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) override;
     void startElement(const xercesc::XMLElementDecl& declaration, unsigned int namespaceId,
                       const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
-                      XMLSize_t attributeCount, bool isEmpty, bool isRoot) override;
+                      XMLSize_t count, bool isEmpty, bool isRoot) override;
     void endElement(const xercesc::XMLElementDecl& declaration, unsigned int namespaceId, bool isRoot,
                     const XMLCh* prefix) override;
 
