@@ -1,12 +1,15 @@
 // A query by time, which must not grow with the sequence.
 #include "api/x_ttml.h"
 #include "bench/ratio_reporter.h"
+#include "parser/ttml_parser.h"
+#include "runtime/exceptions.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -20,9 +23,10 @@ constexpr int spacing = 1000; // ms from begin to begin
 constexpr int shown = 800;    // ms on screen
 constexpr std::uint32_t lead = 5000;
 
-enum class Order { SORTED, SHUFFLED };
+enum class Order { SORTED, SHUFFLED, UNDER_A_LASTING_ONE, CUT_OFF };
 
-/// A parser with `size` items of `shown` ms each, in the order of time or in any.
+/// A parser with `size` items of `shown` ms each, in the order of time or in any; before them one that lasts,
+/// or behind them one that ends the generation with an exception.
 class Player {
 public:
     Player(int size, Order order) {
@@ -30,18 +34,27 @@ public:
         std::iota(numbers.begin(), numbers.end(), 0);
         if (order == Order::SHUFFLED)
             std::shuffle(numbers.begin(), numbers.end(), std::mt19937(7));
-        std::string text = "<tt><body><div>";
+        std::string text = "<tt xmlns:cff='http://www.decellc.org/schema/2012/01/cff-tt-meta'><body><div>";
+        if (order == Order::UNDER_A_LASTING_ONE)
+            text += "<p begin='0s' end='" + std::to_string(size) + "s'/>";
         for (const int number : numbers) {
             const int begin = static_cast<int>(lead) + number * spacing;
             text += "<p begin='" + std::to_string(begin) + "ms' end='" + std::to_string(begin + shown - 1) +
                     "ms'/>";
         }
+        if (order == Order::CUT_OFF)
+            text += "<p cff:forcedDisplayMode='neither'/>";
         text += "</div></body></tt>";
         x_ttml_create_new_parser(&handle);
         if (x_ttml_load_subtitle_from_data(handle, text.data(), static_cast<uint32_t>(text.size())) !=
             X_TTML_OK)
             std::abort();
-        x_ttml_generate_text_display_item_sequence(handle, 0);
+        try {
+            x_ttml_generate_text_display_item_sequence(handle, 0);
+        } catch (const tessera::Exception&) {
+            if (order != Order::CUT_OFF)
+                throw;
+        }
         x_ttml_destory_doc(handle);
     }
     ~Player() { x_ttml_delete_parser(handle); }
@@ -84,10 +97,28 @@ std::vector<std::uint32_t> InPlay(int size) {
     return times;
 }
 
+/// A question at a time; the answer is there to be looked at.
+using Ask = const void* (*)(x_ttml_handle handle, std::uint32_t time);
+
+const void* AskForTheItem(x_ttml_handle handle, std::uint32_t time) {
+    return x_ttml_get_display_item_by_time(handle, time);
+}
+const void* AskForAllOnScreen(x_ttml_handle handle, std::uint32_t time) {
+    DisplayItem* items[4] = {};
+    static_cast<const TtmlParser*>(handle)->uGetDisplayItemsOnScreen(items, 4, time);
+    return items[0];
+}
+const void* AskForTheNextChange(x_ttml_handle handle, std::uint32_t time) {
+    static std::optional<std::int32_t> change;
+    change = static_cast<const TtmlParser*>(handle)->rGetNextChange(static_cast<std::int32_t>(time));
+    return &change;
+}
+
 struct Kind {
     const char* name;
     Order order;
     Times times;
+    Ask ask = AskForTheItem;
 };
 
 constexpr Kind kinds[] = {
@@ -99,6 +130,14 @@ constexpr Kind kinds[] = {
     {"Shuffled/InPlay", Order::SHUFFLED, InPlay},
     {"Shuffled/OnScreen", Order::SHUFFLED, OnScreen},
     {"Shuffled/InGaps", Order::SHUFFLED, InGaps},
+    {"CutOff/OnScreen", Order::CUT_OFF, OnScreen},
+    {"All/Sorted/OnScreen", Order::SORTED, OnScreen, AskForAllOnScreen},
+    {"All/Sorted/InGaps", Order::SORTED, InGaps, AskForAllOnScreen},
+    {"All/Shuffled/OnScreen", Order::SHUFFLED, OnScreen, AskForAllOnScreen},
+    {"All/UnderALastingOne/OnScreen", Order::UNDER_A_LASTING_ONE, OnScreen, AskForAllOnScreen},
+    {"NextChange/Sorted/OnScreen", Order::SORTED, OnScreen, AskForTheNextChange},
+    {"NextChange/Shuffled/OnScreen", Order::SHUFFLED, OnScreen, AskForTheNextChange},
+    {"NextChange/UnderALastingOne/InGaps", Order::UNDER_A_LASTING_ONE, InGaps, AskForTheNextChange},
 };
 
 void Measure(benchmark::State& state, const Kind& kind) {
@@ -107,7 +146,7 @@ void Measure(benchmark::State& state, const Kind& kind) {
     const std::vector<std::uint32_t> times = kind.times(size);
     std::size_t i = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(x_ttml_get_display_item_by_time(player.handle, times[i]));
+        benchmark::DoNotOptimize(kind.ask(player.handle, times[i]));
         i = i + 1 < times.size() ? i + 1 : 0;
     }
 }

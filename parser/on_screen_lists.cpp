@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr std::uint32_t uSpareItems = 8;
+constexpr std::uint32_t uSpareItems = 4;
 
 } // namespace
 
