@@ -11,6 +11,9 @@ namespace {
 
 constexpr std::size_t USUAL_LINE = 128;
 
+LineFunction lineFunction = nullptr;
+void* lineContext = nullptr;
+
 // In one piece where it fits, so that the lines of two threads stay whole. Unformatted: neither the width nor
 // the locale of the stream counts.
 void Put(std::string_view line) {
@@ -32,21 +35,38 @@ void Quietly(Write&& write) {
     }
 }
 
+// Where a program has taken the lines to; else standard output.
+template <class Write>
+void WriteOrHandOn(std::string_view line, Write&& write) {
+    if (lineFunction) {
+        lineFunction(lineContext, line.data(), line.size());
+    } else {
+        write(line);
+    }
+}
+
 } // namespace
 
+void SetLineFunction(LineFunction function, void* context) {
+    lineFunction = function;
+    lineContext = context;
+}
+
 void WriteLine(std::string_view line) {
-    Quietly([line] {
-        Put(line);
-        std::cout.flush();
+    WriteOrHandOn(line, [](std::string_view text) {
+        Quietly([text] {
+            Put(text);
+            std::cout.flush();
+        });
     });
 }
 
 void WriteLineUnflushed(std::string_view line) {
-    Quietly([line] { Put(line); });
+    WriteOrHandOn(line, [](std::string_view text) { Quietly([text] { Put(text); }); });
 }
 
 void WriteLoadingLine(const char* line) {
-    std::puts(line);
+    WriteOrHandOn(line, [line](std::string_view) { std::puts(line); });
 }
 
 } // namespace tessera

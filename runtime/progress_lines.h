@@ -4,9 +4,17 @@
 #ifndef XTTML_RUNTIME_PROGRESS_LINES_H
 #define XTTML_RUNTIME_PROGRESS_LINES_H
 
+#include <cstddef>
 #include <string_view>
 
 namespace tessera {
+
+/// Receives a line of `length` bytes, without its line end and not terminated.
+using LineFunction = void (*)(void* context, const char* line, std::size_t length);
+
+/// Sends every line of the process to a function instead of standard output; null: standard output again.
+/// No other thread may be inside the library.
+void SetLineFunction(LineFunction function, void* context);
 
 /// Writes a line to std::cout and flushes it. The line end is added.
 void WriteLine(std::string_view line);
