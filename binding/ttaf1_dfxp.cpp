@@ -43,21 +43,22 @@ void RemoveDocumentType(DOMDocument& document) {
 
 } // namespace
 
-Cttaf1_dfxp Cttaf1_dfxp::LoadFromFile(const std::string& path) {
+Cttaf1_dfxp Cttaf1_dfxp::LoadFromFile(const std::string& path, const LoadOptions& options) {
     tessera::WriteLine("LoadFromFile called in ttaf1_dfxp");
-    return Cttaf1_dfxp(XercesTreeOperations::LoadDocument(path));
+    return Cttaf1_dfxp(XercesTreeOperations::LoadDocument(path, options));
 }
 
-Cttaf1_dfxp Cttaf1_dfxp::LoadFromString(const std::string& text) {
-    return Cttaf1_dfxp(XercesTreeOperations::LoadXml(text));
+Cttaf1_dfxp Cttaf1_dfxp::LoadFromString(const std::string& text, const LoadOptions& options) {
+    return Cttaf1_dfxp(XercesTreeOperations::LoadXml(text, options));
 }
 
-Cttaf1_dfxp Cttaf1_dfxp::LoadFromBinary(const std::vector<unsigned char>& bytes) {
-    return Cttaf1_dfxp(XercesTreeOperations::LoadFromBinary(bytes));
+Cttaf1_dfxp Cttaf1_dfxp::LoadFromBinary(const std::vector<unsigned char>& bytes, const LoadOptions& options) {
+    return Cttaf1_dfxp(XercesTreeOperations::LoadFromBinary(bytes, options));
 }
 
-Cttaf1_dfxp Cttaf1_dfxp::LoadFromBinary(const unsigned char* bytes, std::size_t size) {
-    return Cttaf1_dfxp(XercesTreeOperations::LoadFromBinary(bytes, size));
+Cttaf1_dfxp Cttaf1_dfxp::LoadFromBinary(const unsigned char* bytes, std::size_t size,
+                                        const LoadOptions& options) {
+    return Cttaf1_dfxp(XercesTreeOperations::LoadFromBinary(bytes, size, options));
 }
 
 Cttaf1_dfxp Cttaf1_dfxp::CreateDocument() {

@@ -24,6 +24,7 @@
 #include "binding/generated/styling.h"
 #include "binding/generated/xml_schema.h"
 #include "runtime/export.h"
+#include "xmltree/load_options.h"
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
@@ -42,13 +43,15 @@ public:
     // Loading throws tessera::DataSourceUnavailableException for what cannot be read or is not well-formed.
 
     /// Reads the file at `path`. Writes its progress to standard output.
-    static Cttaf1_dfxp LoadFromFile(const std::string& path);
+    static Cttaf1_dfxp LoadFromFile(const std::string& path, const LoadOptions& options = {});
     /// Reads the bytes of a string.
-    static Cttaf1_dfxp LoadFromString(const std::string& text);
+    static Cttaf1_dfxp LoadFromString(const std::string& text, const LoadOptions& options = {});
     /// @{
     /// Reads bytes, during the call only.
-    static Cttaf1_dfxp LoadFromBinary(const std::vector<unsigned char>& bytes);
-    static Cttaf1_dfxp LoadFromBinary(const unsigned char* bytes, std::size_t size);
+    static Cttaf1_dfxp LoadFromBinary(const std::vector<unsigned char>& bytes,
+                                      const LoadOptions& options = {});
+    static Cttaf1_dfxp LoadFromBinary(const unsigned char* bytes, std::size_t size,
+                                      const LoadOptions& options = {});
     /// @}
     /// A new, empty document.
     static Cttaf1_dfxp CreateDocument();

@@ -2,30 +2,26 @@
 
 #include "runtime/exceptions.h"
 #include "runtime/progress_lines.h"
+#include "runtime/utf8.h"
 #include "xmltree/document_parser.h"
 #include "xmltree/transcode.h"
-#ifdef XTTML_UNTRUSTED_XML
 #include "xmltree/untrusted_parser.h"
-#endif
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax/SAXException.hpp>
+#include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
+
+#include <utility>
 
 using tessera::DataSourceUnavailableException;
 using xercesc::DOMDocument;
 using xercesc::XMLPlatformUtils;
 
 namespace {
-
-#ifdef XTTML_UNTRUSTED_XML
-using Parser = UntrustedParser;
-#else
-using Parser = DocumentParser;
-#endif
 
 /// A load from memory says nothing on its way.
 struct SilentLoad {
@@ -41,15 +37,25 @@ struct ReportedLoad {
     const std::string& path;
 };
 
-template <class Report, class Parse>
-DOMDocument* ParseDocument(const Report& report, Parse&& parse) {
+/// Knows the errors that the XML library reports from those that it is stopped by.
+class FatalErrors : public xercesc::DefaultHandler {
+public:
+    void fatalError(const xercesc::SAXParseException& error) override {
+        haveComeUp = true;
+        DefaultHandler::fatalError(error);
+    }
+
+    bool haveComeUp = false;
+};
+
+template <class Parser, class Report, class Parse>
+DOMDocument* ParseDocument(const Report& report, FatalErrors& handler, Parse&& parse) {
     if (!XMLPlatformUtils::fgMemoryManager) {
         throw DataSourceUnavailableException(
             report.Failure("Xerces XML error while loading: The XML library is not initialised."));
     }
     Parser parser(nullptr, XMLPlatformUtils::fgMemoryManager);
     report.Line("parser Created OK");
-    xercesc::DefaultHandler handler;
     report.Line("defaultHandler Created OK");
     parser.setErrorHandler(&handler);
     report.Line("setErrorHandler OK");
@@ -62,26 +68,55 @@ DOMDocument* ParseDocument(const Report& report, Parse&& parse) {
     return document;
 }
 
+std::string Utf8(const XMLCh* text) {
+    return text ? tessera::Utf8FromUtf16(text) : std::string();
+}
+
+/// Where a fatal error has no line, the document was not even opened.
+LoadFault::Kind KindOf(const FatalErrors& handler, std::uint64_t line) {
+    if (!handler.haveComeUp) {
+        return LoadFault::REFUSED;
+    }
+    return line == 0 ? LoadFault::UNREADABLE : LoadFault::MALFORMED;
+}
+
+LoadFault FaultOf(const xercesc::SAXException& error, const FatalErrors& handler) {
+    const auto* const place = dynamic_cast<const xercesc::SAXParseException*>(&error);
+    const std::uint64_t line = place ? place->getLineNumber() : 0;
+    return {KindOf(handler, line), Utf8(error.getMessage()), line, place ? place->getColumnNumber() : 0};
+}
+
+void Tell(const LoadOptions& options, LoadFault fault) {
+    if (options.fault) {
+        *options.fault = std::move(fault);
+    }
+}
+
 template <class Report, class Parse>
-DOMDocument* Load(const Report& report, Parse&& parse) {
+DOMDocument* Load(const Report& report, const LoadOptions& options, Parse&& parse) {
+    FatalErrors handler;
     try {
-        return ParseDocument(report, parse);
+        return options.isUntrusted ? ParseDocument<UntrustedParser>(report, handler, parse)
+                                   : ParseDocument<DocumentParser>(report, handler, parse);
     } catch (const xercesc::XMLException& error) {
         report.Line("XMLException catched");
+        Tell(options, {LoadFault::UNREADABLE, Utf8(error.getMessage())});
         throw DataSourceUnavailableException(
             report.Failure("Xerces XML error while loading: " + XercesUnstringTemp(error.getMessage())));
     } catch (const xercesc::SAXException& error) {
         report.Line("SAXException catched");
+        Tell(options, FaultOf(error, handler));
         throw DataSourceUnavailableException(
             report.Failure("Xerces SAX error while loading: " + XercesUnstringTemp(error.getMessage())));
-    } catch (const xercesc::DOMException&) {
+    } catch (const xercesc::DOMException& error) {
         report.Line("DOMException catched");
+        Tell(options, {LoadFault::MALFORMED, Utf8(error.getMessage())});
         throw DataSourceUnavailableException(report.Failure("Xerces DOM error while loading"));
     }
 }
 
-DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
-    return Load(SilentLoad{}, [bytes, size](Parser& parser) {
+DOMDocument* LoadFromMemory(const void* bytes, std::size_t size, const LoadOptions& options) {
+    return Load(SilentLoad{}, options, [bytes, size](auto& parser) {
         xercesc::MemBufInputSource source(static_cast<const XMLByte*>(bytes), size, "String");
         source.setCopyBufToStream(false); // the bytes outlast the parse
         parser.parse(source);
@@ -90,20 +125,24 @@ DOMDocument* LoadFromMemory(const void* bytes, std::size_t size) {
 
 } // namespace
 
-DOMDocument* XercesTreeOperations::LoadDocument(const std::string& path) {
+const bool LoadOptions::UNTRUSTED_BY_DEFAULT = XTTML_UNTRUSTED_BY_DEFAULT != 0;
+
+DOMDocument* XercesTreeOperations::LoadDocument(const std::string& path, const LoadOptions& options) {
     tessera::WriteLoadingLine("XercesTreeOperations::LoadDocument called!");
     tessera::WriteLoadingLine("declare parser OK");
-    return Load(ReportedLoad{path}, [&path](Parser& parser) { parser.parse(XercesStringTemp(path)); });
+    return Load(ReportedLoad{path}, options, [&path](auto& parser) { parser.parse(XercesStringTemp(path)); });
 }
 
-DOMDocument* XercesTreeOperations::LoadXml(const std::string& text) {
-    return LoadFromMemory(text.data(), text.size());
+DOMDocument* XercesTreeOperations::LoadXml(const std::string& text, const LoadOptions& options) {
+    return LoadFromMemory(text.data(), text.size(), options);
 }
 
-DOMDocument* XercesTreeOperations::LoadFromBinary(const std::vector<unsigned char>& bytes) {
-    return LoadFromMemory(bytes.data(), bytes.size());
+DOMDocument* XercesTreeOperations::LoadFromBinary(const std::vector<unsigned char>& bytes,
+                                                  const LoadOptions& options) {
+    return LoadFromMemory(bytes.data(), bytes.size(), options);
 }
 
-DOMDocument* XercesTreeOperations::LoadFromBinary(const unsigned char* bytes, std::size_t size) {
-    return LoadFromMemory(bytes, size);
+DOMDocument* XercesTreeOperations::LoadFromBinary(const unsigned char* bytes, std::size_t size,
+                                                  const LoadOptions& options) {
+    return LoadFromMemory(bytes, size, options);
 }

@@ -21,6 +21,7 @@
 
 #include "runtime/export.h"
 #include "runtime/info.h"
+#include "xmltree/load_options.h"
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
@@ -80,13 +81,15 @@ public:
     // lets every other exception pass.
 
     /// Reads the file at `path`, the XML library's system identifier. Writes its progress to standard output.
-    static xercesc::DOMDocument* LoadDocument(const std::string& path);
+    static xercesc::DOMDocument* LoadDocument(const std::string& path, const LoadOptions& options = {});
     /// Reads a document from the bytes of a string.
-    static xercesc::DOMDocument* LoadXml(const std::string& text);
+    static xercesc::DOMDocument* LoadXml(const std::string& text, const LoadOptions& options = {});
     /// @{
     /// Reads a document from bytes, during the call only.
-    static xercesc::DOMDocument* LoadFromBinary(const std::vector<unsigned char>& bytes);
-    static xercesc::DOMDocument* LoadFromBinary(const unsigned char* bytes, std::size_t size);
+    static xercesc::DOMDocument* LoadFromBinary(const std::vector<unsigned char>& bytes,
+                                                const LoadOptions& options = {});
+    static xercesc::DOMDocument* LoadFromBinary(const unsigned char* bytes, std::size_t size,
+                                                const LoadOptions& options = {});
     /// @}
 
     // Queries. They allocate nothing, except for the text that they return.

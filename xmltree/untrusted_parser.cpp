@@ -7,6 +7,7 @@
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
 #include <xercesc/sax/SAXException.hpp>
+#include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/util/BinInputStream.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -30,17 +31,6 @@ constexpr XMLSize_t MAX_ATTRIBUTES = 256;
 constexpr XMLSize_t MAX_VALUE_LENGTH = 1024; // display items hold copies of values
 constexpr std::size_t MAX_NAMES = 4096;
 
-[[noreturn]] void Refuse(const std::string& reason) {
-    throw xercesc::SAXException(XercesStringTemp(reason), XMLPlatformUtils::fgMemoryManager);
-}
-
-template <class Count>
-void RequireAtMost(Count count, Count limit, const char* before, const char* after) {
-    if (count > limit) {
-        Refuse(before + std::to_string(limit) + after);
-    }
-}
-
 /// Passes a stream on until it has given more bytes than a document may have.
 class BoundedStream : public BinInputStream {
 public:
@@ -50,7 +40,10 @@ public:
     XMLSize_t readBytes(XMLByte* bytes, XMLSize_t size) override {
         const XMLSize_t count = stream_->readBytes(bytes, size);
         total_ += count;
-        RequireAtMost(total_, MAX_BYTES, "The document is larger than ", " bytes.");
+        if (total_ > MAX_BYTES) {
+            const std::string reason = "The document is larger than " + std::to_string(MAX_BYTES) + " bytes.";
+            throw xercesc::SAXException(XercesStringTemp(reason), XMLPlatformUtils::fgMemoryManager);
+        }
         return count;
     }
     const XMLCh* getContentType() const override { return stream_->getContentType(); }
@@ -112,6 +105,18 @@ void UntrustedParser::endElement(const XMLElementDecl& element, unsigned int nam
                                  const XMLCh* prefix) {
     --depth_;
     DocumentParser::endElement(element, namespaceId, isRoot, prefix);
+}
+
+void UntrustedParser::Refuse(const std::string& reason) const {
+    throw xercesc::SAXParseException(XercesStringTemp(reason), *getScanner()->getLocator(),
+                                     XMLPlatformUtils::fgMemoryManager);
+}
+
+template <class Count>
+void UntrustedParser::RequireAtMost(Count count, Count limit, const char* before, const char* after) const {
+    if (count > limit) {
+        Refuse(before + std::to_string(limit) + after);
+    }
 }
 
 void UntrustedParser::CountName(const XMLCh* name) {

@@ -1,5 +1,5 @@
 // The DOM parser for documents from the network, whoever wrote them: it refuses what costs a player its
-// files, its network, its time or its memory. In a library built with XTTML_UNTRUSTED_XML every load uses it.
+// files, its network, its time or its memory.
 #ifndef XTTML_XMLTREE_UNTRUSTED_PARSER_H
 #define XTTML_XMLTREE_UNTRUSTED_PARSER_H
 
@@ -12,7 +12,7 @@
 #include <set>
 #include <string>
 
-/// Refuses, by a xercesc::SAXException as the error handler throws for malformed XML:
+/// Refuses, by a xercesc::SAXException, with the place where it is known, without asking the error handler:
 /// - any document type declaration, before anything that it names is read: no entities, nothing external;
 /// - more than XTTML_UNTRUSTED_MAX_BYTES bytes, before they are parsed;
 /// - elements nested more than XTTML_UNTRUSTED_MAX_DEPTH deep;
@@ -35,6 +35,9 @@ public:
                     const XMLCh* prefix) override;
 
 private:
+    [[noreturn]] void Refuse(const std::string& reason) const;
+    template <class Count>
+    void RequireAtMost(Count count, Count limit, const char* before, const char* after) const;
     void CountName(const XMLCh* name);
 
     std::size_t depth_ = 0;
