@@ -5,6 +5,8 @@
 #include "runtime/progress_lines.h"
 #include "runtime/whitespace.h"
 #include "style/length.h"
+#include "xmltree/namespace_names.h"
+#include "xmltree/tree_operations.h"
 
 #include <algorithm>
 
@@ -44,6 +46,13 @@ std::string TtmlParser::strGetDocLanguage() const {
     return documentRoot_.tt.first().lang.value().value_or("INVALID");
 }
 
+std::u16string_view TtmlParser::strGetLanguage() const {
+    const xercesc::DOMNode* const pRoot = documentRoot_.tt.first().GetNode();
+    const xercesc::DOMNode* const pLanguage =
+        pRoot ? XercesTreeOperations::FindAttribute(pRoot, XML_NAMESPACE, "lang") : nullptr;
+    return pLanguage ? std::u16string_view(pLanguage->getNodeValue()) : std::u16string_view();
+}
+
 std::optional<Cbody_eltype> TtmlParser::rFindBodyWithDivision() const {
     const Cbody_eltype body = documentRoot_.tt.first().body.first();
     if (!body.GetNode()) {
@@ -70,8 +79,9 @@ void TtmlParser::vReadRootExtent() {
     rootStyling_.uExtentHeight = static_cast<std::uint32_t>(iExtentHeight_);
 }
 
-TimeRates TtmlParser::rReadTimeRates() const {
+TimeRates TtmlParser::rReadTimeRates() {
     const Ctt_eltype root = documentRoot_.tt.first();
+    pReadAttribute_ = "ttp:frameRate";
     TimeRates rates;
     const std::optional<unsigned long long> uFrameRate = root.frameRate.value();
     if (uFrameRate)

@@ -114,13 +114,16 @@ void TtmlParser::vAppendImage(const Cdiv_eltype& division, const TimeRates& rate
         return;
     const ImageTableEntry& image = aImageTable_[uIndex - 1];
     auto item = std::make_unique<ImageItem>(image.pData, image.iSize);
+    pReadAttribute_ = "begin";
     const std::int32_t iBegin = iGetTimeFromString(division.begin, rates.iFrameRate, rates.fTickRate);
+    pReadAttribute_ = "end";
     const std::int32_t iEnd = iGetTimeFromString(division.end, rates.iFrameRate, rates.fTickRate);
     item->vSetTime(iShifted(iBegin, iOffset), iShifted(iEnd, iOffset));
     const std::optional<std::string> strRegion = division.region.value();
     item->styling = strRegion ? rOrDefault(prGetRegionByID(*strRegion)) : rootStyling_;
     const Extent area = {item->styling.uExtentWidth, item->styling.uExtentHeight};
     vReadGeometry(division, PairOutcome::UNCHANGED, area, item->styling);
+    pReadAttribute_ = "forcedDisplayMode";
     if (fgReadForced)
         item->fgForcedDisplay = division.forcedDisplayMode.value().value_or(false);
     vAppend(std::move(item));

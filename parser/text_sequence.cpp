@@ -172,7 +172,8 @@ void TtmlParser::vGenerateTextDisplaySequence(int iOffset) {
 }
 
 std::unique_ptr<TextItem> TtmlParser::rMakeTextItem(const Cp_eltype& paragraph,
-                                                    std::optional<TimeRates>& rates, int iOffset) const {
+                                                    std::optional<TimeRates>& rates, int iOffset) {
+    pReadAttribute_ = "forcedDisplayMode"; // the only one of these that is no text
     const auto [fgForced, strRegion, strStyle, strBegin, strEnd] = values(
         paragraph.forcedDisplayMode, paragraph.region, paragraph.style, paragraph.begin, paragraph.end);
     auto item = std::make_unique<TextItem>();

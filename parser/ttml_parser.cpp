@@ -25,6 +25,13 @@ TtmlParser::~TtmlParser() {
     vClearDisplaySequence();
 }
 
+LoadOptions TtmlParser::rTellingFault() {
+    LoadOptions options = loadOptions_;
+    loadFault_ = {};
+    options.fault = &loadFault_;
+    return options;
+}
+
 bool TtmlParser::fgHoldDocument(const Cttaf1_dfxp& loaded) {
     documentRoot_ = loaded;
     const bool fgHasRoot = documentRoot_.tt.exists();
@@ -35,7 +42,7 @@ bool TtmlParser::fgHoldDocument(const Cttaf1_dfxp& loaded) {
 bool TtmlParser::fgLoadDocument(const char* path) {
     tessera::WriteLine("loadFromFile called!");
     xercesc::XMLPlatformUtils::Initialize();
-    const Cttaf1_dfxp loaded = Cttaf1_dfxp::LoadFromFile(path ? path : "");
+    const Cttaf1_dfxp loaded = Cttaf1_dfxp::LoadFromFile(path ? path : "", rTellingFault());
     tessera::WriteLine("loadFromFile finished!");
     return fgHoldDocument(loaded);
 }
@@ -43,10 +50,12 @@ bool TtmlParser::fgLoadDocument(const char* path) {
 bool TtmlParser::fgLoadDocument(const void* data, unsigned int size) {
     try {
         const auto* const pBytes = static_cast<const unsigned char*>(data);
-        return fgHoldDocument(Cttaf1_dfxp::LoadFromBinary(pBytes, pBytes ? size : 0));
+        return fgHoldDocument(Cttaf1_dfxp::LoadFromBinary(pBytes, pBytes ? size : 0, rTellingFault()));
     } catch (const tessera::DataSourceUnavailableException& exception) {
+        vRememberException();
         tessera::WriteLine(exception.message());
     } catch (...) {
+        vRememberException();
         tessera::WriteLine("Unknown Exception Occured!");
     }
     return false;

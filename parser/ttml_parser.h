@@ -11,6 +11,7 @@
 
 #include "binding/ttaf1_dfxp.h"
 #include "parser/display_item.h"
+#include "parser/failure.h"
 #include "parser/time_index.h"
 #include "style/style_tables.h"
 
@@ -74,11 +75,18 @@ public:
     /// Loads a document from memory; the bytes are read during the call only.
     /// @return whether it could be parsed and has a tt root element; without one it is held all the same
     bool fgLoadDocument(const void* data, unsigned int size);
+    /// Whether the document has a tt root element; false without a document.
+    bool fgHasRootElement() const { return documentRoot_.tt.exists(); }
+    /// Whether the documents that are loaded from now on are untrusted; at first LoadOptions says.
+    void vSetUntrusted(bool fgUntrusted) { loadOptions_.isUntrusted = fgUntrusted; }
+    bool fgIsUntrusted() const { return loadOptions_.isUntrusted; }
     /// Copies a block of image data. The size is stored in any case; one below 1, and a null buffer, which
     /// leaves nothing to copy, keep the copy held so far. The next cut goes by the stored size, but never
     /// beyond the copy.
     /// @param size the bytes of the block
     void vSetDocumentBuffer(const char* buffer, int size);
+    /// Whether a copy of image data is held.
+    bool fgHoldsImageData() const { return !vecDocumentBuffer_.empty(); }
     /// Releases the document, when there is one.
     void vCloseDocument();
     /// Initialises the XML library; every call needs its vXercesTerminate().
@@ -88,6 +96,17 @@ public:
     const ttaf1_dfxp::tt::Cttaf1_dfxp& rGetDocumentRoot() const { return documentRoot_; }
     /// The xml:lang of the tt element; "INVALID" when it has none.
     std::string strGetDocLanguage() const;
+    /// The same as the document has it, owned by the document; empty when there is none.
+    std::u16string_view strGetLanguage() const;
+
+    // Failures, for callers that cannot receive an exception.
+
+    /// Why the last operation failed that was asked to remember it.
+    const Failure& rGetFailure() const { return failure_; }
+    void vForgetFailure();
+    void vRememberFailure(failure_kind_e eKind, const char* reason);
+    /// Remembers the exception that is being handled.
+    void vRememberException() noexcept;
 
     // The display sequence.
 
@@ -187,12 +206,13 @@ public:
     void vGetImageItem(ttaf1_dfxp::tt::Cdiv_eltype division, int iOffset);
 
 private:
+    LoadOptions rTellingFault();
     bool fgHoldDocument(const ttaf1_dfxp::tt::Cttaf1_dfxp& loaded);
 
     // What both generators do (document_facts.cpp).
     std::optional<ttaf1_dfxp::tt::Cbody_eltype> rFindBodyWithDivision() const;
     void vReadRootExtent();
-    TimeRates rReadTimeRates() const;
+    TimeRates rReadTimeRates();
     static const StylingAttrib& rOrDefault(const StylingAttrib* pAttrib);
     static std::int32_t iShifted(std::int32_t iTime, std::int32_t iOffset);
     void vAppend(std::unique_ptr<DisplayItem> item);
@@ -201,7 +221,7 @@ private:
     void vWriteDocumentTime() const;
 
     std::unique_ptr<TextItem> rMakeTextItem(const ttaf1_dfxp::tt::Cp_eltype& paragraph,
-                                            std::optional<TimeRates>& rates, int iOffset) const;
+                                            std::optional<TimeRates>& rates, int iOffset);
     void vSetRegionAndStyle(const std::optional<std::string>& strRegion,
                             const std::optional<std::string>& strStyle, TextItem& item) const;
     void vAppendImages(const ttaf1_dfxp::tt::Cdiv_eltype& division, const TimeRates& rates, int iOffset);
@@ -229,6 +249,10 @@ private:
     ttaf1_dfxp::tt::Cttaf1_dfxp documentRoot_;
     std::vector<std::vector<std::uint8_t>> vecEarlierBuffers_; // that items point into
     StylingAttrib rootStyling_; // of an item that names no region: the default on the root extent
+    LoadOptions loadOptions_;
+    LoadFault loadFault_;
+    const char* pReadAttribute_ = nullptr; // the attribute that is being converted, for the failure
+    Failure failure_;
     TimeIndex timeIndex_;       // of the sequence as the last generation left it
 };
 
