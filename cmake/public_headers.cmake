@@ -7,6 +7,7 @@
 # What a player reads. None of these headers includes the XML library.
 set(XTTML_PUBLIC_HEADERS
   api/x_ttml.h
+  api/x_ttml_items.h
   parser/display_item.h
   runtime/exceptions.h
   runtime/export.h
@@ -31,6 +32,7 @@ list(APPEND XTTML_PUBLIC_HEADERS
   runtime/ordering.h
   runtime/parsed_integer.h
   runtime/qname.h
+  xmltree/load_options.h
   xmltree/tree_operations.h)
 
 set(XTTML_INCLUDE_FOLDER ${PROJECT_BINARY_DIR}/include/xttml)
