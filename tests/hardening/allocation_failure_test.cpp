@@ -1,7 +1,7 @@
 // Every allocation of a player's way through the library is made to fail in turn: each ends as the contract
 // says, nothing is lost, and the parser goes on. The library's own allocations and those of the XML library
 // are told apart by their ways: operator new, and the memory manager given to the XML library.
-#include "api/x_ttml.h"
+#include "api/x_ttml_items.h"
 #include "tests/hardening/redirected_output.h"
 #include "tests/support/temporary_file.h"
 
@@ -108,8 +108,11 @@ void Load(x_ttml_handle parser, const char* path) {
         x_ttml_load_subtitle_from_data(parser, DOCUMENT, sizeof DOCUMENT - 1);
 }
 
+bool isUntrusted = false;
+
 /// The whole way of a player, from a file or, without a path, from memory.
 void Play(x_ttml_handle parser, const char* path) {
+    x_ttml_set_untrusted(parser, isUntrusted);
     x_ttml_set_document_buffer_info(parser, IMAGES, sizeof IMAGES - 1);
     Load(parser, path);
     x_ttml_generate_text_display_item_sequence(parser, 0);
@@ -149,9 +152,10 @@ void ExpectPlaysAgain(x_ttml_handle parser, const char* path) {
     x_ttml_destory_doc(parser);
 }
 
-class AllocationFailure : public testing::Test {
+class AllocationFailure : public testing::TestWithParam<bool> {
 protected:
     AllocationFailure() {
+        isUntrusted = GetParam();
         xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr,
                                               &xmlMemory);
         const RedirectedOutput silence("/dev/null");
@@ -190,7 +194,9 @@ protected:
     long failures = 0;
 };
 
-TEST_F(AllocationFailure, OfTheLibraryLosesNothing) {
+INSTANTIATE_TEST_SUITE_P(TrustedAndUntrusted, AllocationFailure, testing::Bool());
+
+TEST_P(AllocationFailure, OfTheLibraryLosesNothing) {
     for (const char* path : {static_cast<const char*>(nullptr), file.path.c_str()}) {
         std::map<Ending, int> endings;
         ForEachFailure(own, path, [&](Ending ending, long ownLost, long xmlLost) {
@@ -204,7 +210,7 @@ TEST_F(AllocationFailure, OfTheLibraryLosesNothing) {
 }
 
 // The XML library leaves to the end of the process what it held when its own memory ended.
-TEST_F(AllocationFailure, OfTheXmlLibraryLosesNothingOfOurs) {
+TEST_P(AllocationFailure, OfTheXmlLibraryLosesNothingOfOurs) {
     for (const char* path : {static_cast<const char*>(nullptr), file.path.c_str()}) {
         std::map<Ending, int> endings;
         ForEachFailure(xml, path, [&](Ending ending, long ownLost, long) {

@@ -1,5 +1,5 @@
-// What the library built with XTTML_UNTRUSTED_XML refuses, and what it says.
-#include "api/x_ttml.h"
+// What is refused of untrusted documents, and what is said of it.
+#include "api/x_ttml_items.h"
 #include "tests/hardening/xml_attacks.h"
 #include "tests/support/temporary_file.h"
 #include "tests/support/xerces_session.h"
@@ -72,10 +72,10 @@ TEST(UntrustedXml, RefusesDocumentTypesBeforeItReadsWhatTheyName) {
         "<?xml version='1.1'?><!-- first --><!DOCTYPE tt><tt/>",
     };
     for (const std::string& document : documents)
-        EXPECT_EQ(TextOrRefusal(document), NO_DOCUMENT_TYPE) << document;
+        EXPECT_EQ(TextOrRefusal(document, UNTRUSTED), NO_DOCUMENT_TYPE) << document;
     EXPECT_FALSE(watch.HasBeenOpened());
     EXPECT_FALSE(listener.HasBeenCalled());
-    EXPECT_EQ(TextOrRefusal("<tt>&lt;&#65;&amp;</tt>"), "<A&");
+    EXPECT_EQ(TextOrRefusal("<tt>&lt;&#65;&amp;</tt>", UNTRUSTED), "<A&");
 }
 
 TEST(UntrustedXml, BoundsWhatADocumentHas) {
@@ -115,16 +115,16 @@ TEST(UntrustedXml, BoundsWhatADocumentHas) {
          tooManyNames},
     };
     for (const auto& test : cases) {
-        EXPECT_EQ(TextOrRefusal(test.accepted), "") << test.what;
-        EXPECT_EQ(TextOrRefusal(test.refused), "Xerces SAX error while loading: " + test.message)
+        EXPECT_EQ(TextOrRefusal(test.accepted, UNTRUSTED), "") << test.what;
+        EXPECT_EQ(TextOrRefusal(test.refused, UNTRUSTED), "Xerces SAX error while loading: " + test.message)
             << test.what;
     }
 }
 
 TEST(UntrustedXml, BoundsTheSizeOfADocument) {
     const XercesSession session;
-    EXPECT_EQ(TextOrRefusal(OfSize(MAX_BYTES)).size(), OfSize(MAX_BYTES).size() - 9);
-    EXPECT_EQ(TextOrRefusal(OfSize(MAX_BYTES + 1)), TooLarge());
+    EXPECT_EQ(TextOrRefusal(OfSize(MAX_BYTES), UNTRUSTED).size(), OfSize(MAX_BYTES).size() - 9);
+    EXPECT_EQ(TextOrRefusal(OfSize(MAX_BYTES + 1), UNTRUSTED), TooLarge());
     const TemporaryFile largest(OfSize(MAX_BYTES));
     const TemporaryFile tooLarge(OfSize(MAX_BYTES + 1));
     std::string output;
@@ -156,6 +156,7 @@ TEST(UntrustedXml, RefusesAsItRefusesMalformedXml) {
     CapturedOutput([&] {
         x_ttml_init_xerces();
         x_ttml_create_new_parser(&parser);
+        x_ttml_set_untrusted(parser, 1);
     });
     const std::string output = CapturedOutput([&] {
         status = x_ttml_load_subtitle_from_data(parser, bomb.data(), static_cast<std::uint32_t>(bomb.size()));

@@ -55,15 +55,18 @@ std::string Outcome(Load&& load) {
     }
 }
 
-inline std::string TextOrRefusal(const std::string& document) {
-    return Outcome([&document] { return XercesTreeOperations::LoadXml(document); });
+inline constexpr LoadOptions TRUSTED = {false, nullptr};
+inline constexpr LoadOptions UNTRUSTED = {true, nullptr};
+
+inline std::string TextOrRefusal(const std::string& document, const LoadOptions& options) {
+    return Outcome([&] { return XercesTreeOperations::LoadXml(document, options); });
 }
 
-/// The same of a file; `output` becomes what the load writes to standard output.
+/// The same of an untrusted file; `output` becomes what the load writes to standard output.
 inline std::string FileTextOrRefusal(const std::string& path, std::string& output) {
     std::string outcome;
     output = CapturedOutput(
-        [&] { outcome = Outcome([&path] { return XercesTreeOperations::LoadDocument(path); }); });
+        [&] { outcome = Outcome([&path] { return XercesTreeOperations::LoadDocument(path, UNTRUSTED); }); });
     return outcome;
 }
 
