@@ -25,7 +25,7 @@ install(FILES ${PROJECT_BINARY_DIR}/xttmlConfig.cmake ${PROJECT_BINARY_DIR}/xttm
 install(EXPORT xttml NAMESPACE xttml:: FILE xttmlTargets.cmake
   DESTINATION ${packageFolder} COMPONENT development)
 
-install(FILES docs/xttml.3 DESTINATION ${CMAKE_INSTALL_MANDIR}/man3 COMPONENT development)
+install(FILES docs/xttml.3 docs/xttml_items.3 DESTINATION ${CMAKE_INSTALL_MANDIR}/man3 COMPONENT development)
 
 if(XTTML_BUILD_TOOLS)
   install(TARGETS xttml_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)

@@ -3,7 +3,7 @@
 
     items.py [--library libxttml.so.1] DOCUMENT [BLOCK-OF-PNG-FILES]
 
-One JSON object a line: begin and end in ms, kind, text or size of the picture, place, colours.
+One JSON object a line: begin and end in ms, place, colours, text or size of the picture.
 """
 
 import argparse
@@ -51,7 +51,8 @@ FUNCTIONS = {
     "x_ttml_item_get_begin": (c_int32, [c_void_p]),
     "x_ttml_item_get_end": (c_int32, [c_void_p]),
     "x_ttml_item_is_forced": (c_int, [c_void_p]),
-    "x_ttml_item_get_text": (c_size_t, [c_void_p, c_char_p, c_size_t]),
+    "x_ttml_item_get_run_count": (c_uint32, [c_void_p]),
+    "x_ttml_run_get_text": (c_size_t, [c_void_p, c_uint32, c_char_p, c_size_t]),
     "x_ttml_item_get_image": (c_void_p, [c_void_p, POINTER(c_uint32)]),
     "x_ttml_item_get_styling": (c_int, [c_void_p, POINTER(Styling)]),
 }
@@ -66,9 +67,9 @@ def open_library(name):
     return library
 
 
-def text_of(library, item):
-    buffer = ctypes.create_string_buffer(library.x_ttml_item_get_text(item, None, 0) + 1)
-    library.x_ttml_item_get_text(item, buffer, len(buffer))
+def text_of(library, item, run):
+    buffer = ctypes.create_string_buffer(library.x_ttml_run_get_text(item, run, None, 0) + 1)
+    library.x_ttml_run_get_text(item, run, buffer, len(buffer))
     return buffer.value.decode()
 
 
@@ -87,7 +88,8 @@ def describe(library, item):
         size = c_uint32()
         library.x_ttml_item_get_image(item, byref(size))
         return {**described, "bytes": size.value}
-    return {**described, "text": text_of(library, item)}
+    runs = range(library.x_ttml_item_get_run_count(item))
+    return {**described, "text": "".join(text_of(library, item, run) for run in runs)}
 
 
 def prepare(library, parser, document, block):

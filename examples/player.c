@@ -15,32 +15,35 @@
 
 enum { ROOM_ON_SCREEN = 32 };
 
-/* A whole file; null when it cannot be read. The caller frees it. */
-static char *read_file(const char *path, size_t *size) {
-    FILE *file = fopen(path, "rb");
+/* All that is left of a file; null when it cannot be read. The caller frees it. */
+static char *read_all(FILE *file, size_t *size) {
     char *bytes = NULL;
     char *larger;
     size_t room = 0;
-    *size = 0;
-    while (file && !ferror(file) && !feof(file)) {
-        if (*size == room) {
-            room = room ? 2 * room : 65536;
-            larger = realloc(bytes, room);
-            if (!larger)
-                break;
-            bytes = larger;
-        }
-        *size += fread(bytes + *size, 1, room - *size, file);
+    for (*size = 0; !ferror(file) && !feof(file); *size += fread(bytes + *size, 1, room - *size, file)) {
+        if (*size < room)
+            continue;
+        room = room ? 2 * room : 65536;
+        larger = realloc(bytes, room);
+        if (!larger)
+            break;
+        bytes = larger;
     }
-    if (file && feof(file)) {
-        fclose(file);
+    if (feof(file))
         return bytes;
-    }
-    fprintf(stderr, "%s: %s\n", path, strerror(errno));
-    if (file)
-        fclose(file);
     free(bytes);
     return NULL;
+}
+
+/* A whole file; null when it cannot be read, which is then said. The caller frees it. */
+static char *read_file(const char *path, size_t *size) {
+    FILE *file = fopen(path, "rb");
+    char *bytes = file ? read_all(file, size) : NULL;
+    if (!bytes)
+        fprintf(stderr, "%s: %s\n", path, strerror(errno));
+    if (file)
+        fclose(file);
+    return bytes;
 }
 
 static void draw_text(const DisplayItem *item) {
@@ -136,8 +139,8 @@ static int run(const char *document, const char *images, int realtime) {
     }
     if (status == X_TTML_OK)
         play(parser, realtime);
-    else
-        fprintf(stderr, "%s:%s (status %d)\n", document, x_ttml_get_reason(parser), status);
+    else if (x_ttml_get_reason(parser)[0] != '\0')
+        fprintf(stderr, "%s:%s\n", document, x_ttml_get_reason(parser));
     x_ttml_destory_doc(parser);
     x_ttml_delete_parser(parser);
     return status;

@@ -24,9 +24,9 @@ struct LoadFault {
 };
 
 /// How a document is loaded.
-struct LoadOptions {
+struct XTTML_API LoadOptions {
     /// Whether documents are untrusted where nobody says so: a decision of the library's build.
-    XTTML_API static const bool UNTRUSTED_BY_DEFAULT;
+    static const bool UNTRUSTED_BY_DEFAULT;
 
     /// An untrusted document is refused for a document type declaration, before anything that it names is
     /// read, and for more bytes, levels, attributes, characters of a value or names than any TTML document

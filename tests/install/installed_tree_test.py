@@ -2,6 +2,7 @@
 
 import argparse
 import concurrent.futures
+import json
 import os
 import pathlib
 import re
@@ -12,7 +13,11 @@ import tempfile
 import unittest
 
 HERE = pathlib.Path(__file__).resolve().parent
+EXAMPLES = HERE.parent.parent / "examples"
 C_PLAYER = HERE.parent / "api" / "c_player_test.c"
+C_ITEMS = HERE.parent / "api" / "c_items_test.c"
+# header, its manual page, the program that calls all its functions
+C_HEADERS = [("x_ttml.h", "xttml.3", C_PLAYER), ("x_ttml_items.h", "xttml_items.3", C_ITEMS)]
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Werror"]
 C99 = ["-std=c99", "-D_POSIX_C_SOURCE=200809L"]
 CPP17 = ["-std=c++17"]
@@ -48,6 +53,11 @@ def run(*command, **options):
     return done.stdout
 
 
+def facts(item):
+    """What the tool and examples/items.py say of an item in the same words."""
+    return item["begin"], item["end"], item.get("text", ""), item.get("bytes", item.get("image", {}).get("bytes"))
+
+
 class InstalledTree(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -73,6 +83,23 @@ class InstalledTree(unittest.TestCase):
             self.skipTest("pkg-config is not installed")
         return run("pkg-config", *questions).split()
 
+    def check_example(self, program):
+        """examples/player.c on text, on pictures, on a hostile document and on none, without a leak."""
+        hostile = self.work / "hostile.ttml"
+        hostile.write_text("<!DOCTYPE tt SYSTEM '/etc/passwd'>\n<tt/>")
+        cases = [
+            (["frames.de.ttml"], "2520 ms: 1 on screen\n  576x86 at 72,460 \"Das letzte Bild zählt mit.\"\n", ""),
+            (["pictures.en.ttml", "pictures.en.pngs"], "picture of 24747 bytes\n", ""),
+            ([hostile], "", f"{hostile}:1:34: A document type declaration is not allowed.\n"),
+            (["missing.ttml"], "", f"{EXAMPLES}/missing.ttml: No such file or directory\n"),
+        ]
+        valgrind = ["valgrind", "-q", "--leak-check=full", "--error-exitcode=9"] if shutil.which("valgrind") else []
+        for files, shown, complaint in cases:
+            command = [*valgrind, program, *(EXAMPLES / file for file in files)]
+            done = subprocess.run(list(map(str, command)), capture_output=True, text=True, check=False)
+            self.assertIn(shown, done.stdout)
+            self.assertEqual((done.stderr, done.returncode), (complaint, 1 if complaint else 0))
+
     def check_player(self, program):
         drawn = run(program).splitlines()
         self.assertEqual([line for line in DRAWN.splitlines() if line not in drawn], [])
@@ -91,7 +118,7 @@ class InstalledTree(unittest.TestCase):
         headers = sorted(self.include.rglob("*.h"))
         self.assertIn(self.include / "x_ttml.h", headers)
         jobs = [(GIVEN.cxx, "c++", CPP17, header) for header in headers]
-        for name in ("x_ttml.h", "x_ttml_version.h", "xttml/runtime/export.h"):
+        for name in ("x_ttml.h", "x_ttml_items.h", "x_ttml_version.h", "xttml/runtime/export.h"):
             jobs.append((GIVEN.cc, "c", C99, self.include / name))
 
         def compile_twice_included(job):
@@ -151,6 +178,7 @@ class InstalledTree(unittest.TestCase):
         both = self.pkg_config("--cflags", "--libs", "xttml", "xerces-c")
         compilers = [
             (C_PLAYER, [GIVEN.cc, *C99], flags),
+            (EXAMPLES / "player.c", [GIVEN.cc, "-std=c99"], flags),
             (HERE / "clients" / "cpp_player.cpp", [GIVEN.cxx, *CPP17], flags),
             (HERE / "clients" / "saving_tool.cpp", [GIVEN.cxx, *CPP17], both),
             (HERE / "clients" / "typed_values.cpp", [GIVEN.cxx, *CPP17], both),
@@ -158,6 +186,7 @@ class InstalledTree(unittest.TestCase):
         for source, compiler, libraries in compilers:
             run(*compiler, *WARNINGS, source, *libraries, "-o", self.work / source.stem)
         run(self.work / C_PLAYER.stem)
+        self.check_example(self.work / "player")
         self.check_player(self.work / "cpp_player")
         self.check_saving_tool(self.work / "saving_tool")
         self.check_typed_values(self.work / "typed_values")
@@ -167,32 +196,46 @@ class InstalledTree(unittest.TestCase):
         prefixes = ";".join(map(str, self.prefixes))
         found = run(
             GIVEN.cmake, "-S", HERE / "clients", "-B", build, f"-DCMAKE_PREFIX_PATH={prefixes}",
-            f"-DCMAKE_C_COMPILER={GIVEN.cc}", f"-DCMAKE_CXX_COMPILER={GIVEN.cxx}", f"-DC_PLAYER={C_PLAYER}",
+            f"-DCMAKE_C_COMPILER={GIVEN.cc}", f"-DCMAKE_CXX_COMPILER={GIVEN.cxx}", f"-DC_PLAYER={C_PLAYER}", f"-DEXAMPLES={EXAMPLES}",
         )
         self.assertIn(f"xttml_VERSION={self.version_in_header()}", found)
         run(GIVEN.cmake, "--build", build, "--parallel", str(os.cpu_count()))
         run(build / "c_player")
+        self.check_example(build / "player")
         self.check_player(build / "cpp_player")
         self.check_saving_tool(build / "saving_tool")
         self.check_typed_values(build / "typed_values")
 
+    def test_items_in_python(self):
+        for document in sorted(EXAMPLES.glob("*.ttml")):
+            block = [block for block in [document.with_suffix(".pngs")] if block.exists()]
+            program = [sys.executable, EXAMPLES / "items.py", "--library", self.shared_library, document, *block]
+            listed = [json.loads(line) for line in run(*program).splitlines()]
+            images = ["--images", *block] if block else []
+            tool = json.loads(run(self.prefix / "bin" / "xttml", "list", "--json", document, *images))["items"]
+            self.assertGreater(len(listed), 1)
+            self.assertEqual([facts(item) for item in listed], [facts(item) for item in tool])
+
     # The functions.
 
-    def declarations(self):
-        """The prototypes of the header, {name: text on one line}."""
-        text = re.sub(r"/\*.*?\*/", "", (self.include / "x_ttml.h").read_text(), flags=re.DOTALL)
+    def declarations(self, header):
+        """The prototypes of a header, {name: text on one line}."""
+        text = re.sub(r"/\*.*?\*/", "", (self.include / header).read_text(), flags=re.DOTALL)
         prototypes = [re.sub(r"\s+", " ", found) for found in re.findall(r"^XTTML_API ([^;]*;)", text, re.MULTILINE)]
         return {re.search(r"\b(x_ttml_\w+)\(", prototype)[1]: prototype for prototype in prototypes}
 
     def test_every_function_is_called_from_c(self):
-        called = set(re.findall(r"\b(x_ttml_\w+)\(", C_PLAYER.read_text()))
-        self.assertEqual(set(self.declarations()) - called, set())
+        for header, _, player in C_HEADERS:
+            called = set(re.findall(r"\b(x_ttml_\w+)\(", player.read_text()))
+            self.assertEqual(set(self.declarations(header)) - called, set())
 
-    def test_the_manual_page_gives_every_function_as_it_is_declared(self):
-        page = (self.prefix / "share" / "man" / "man3" / "xttml.3").read_text()
-        self.assertEqual(sorted(re.findall(r"^\.B (.*\);)$", page, re.MULTILINE)), sorted(self.declarations().values()))
-        if shutil.which("groff"):
-            run("sh", "-c", 'test -z "$(groff -man -ww -Tutf8 - 2>&1 >/dev/null)"', input=page)
+    def test_the_manual_pages_give_every_function_as_it_is_declared(self):
+        for header, name, _ in C_HEADERS:
+            page = (self.prefix / "share" / "man" / "man3" / name).read_text()
+            declared = self.declarations(header).values()
+            self.assertEqual(sorted(re.findall(r"^\.B (.*\);)$", page, re.MULTILINE)), sorted(declared))
+            if shutil.which("groff"):
+                run("sh", "-c", 'test -z "$(groff -man -ww -Tutf8 - 2>&1 >/dev/null)"', input=page)
 
 
 if __name__ == "__main__":
