@@ -1,8 +1,9 @@
 /* xttml: TTML subtitles for media players.
  *
  * A player makes a parser, loads one document into it, has it turn the document into a sequence of display
- * items and then asks, while it plays, what is on screen at a time. In C the items are opaque; in C++ this
- * header also brings the classes that a player reads.
+ * items and then asks, while it plays, what is on screen at a time. In C the items are opaque: x_ttml_items.h
+ * reads them, and has calls that do not throw; in C++ this header also brings the classes that a player
+ * reads.
  *
  * Conventions
  *
@@ -16,7 +17,7 @@
  *     x_ttml_load_subtitle_from_data() catches whatever is thrown; the other functions catch nothing. On bad
  *     input only these throw: x_ttml_load_subtitle_from_file() for a file that cannot be read or is not
  *     well-formed XML; the two generators for an attribute that does not convert or is missing. A player
- *     that cannot receive C++ exceptions calls them through a guard of its own (README.md shows one).
+ *     that cannot receive C++ exceptions calls their namesakes in x_ttml_items.h.
  *  4. Memory. Lack of it ends in std::bad_alloc, but for the loads: from memory, in X_TTML_UNUSABLE; from a
  *     file, also in tessera::DataSourceUnavailableException or in the XML library's own
  *     xercesc::OutOfMemoryException, which is no std::exception. x_ttml_init_xerces() throws that as well
@@ -29,14 +30,15 @@
  *  7. Output. The library writes progress and failure lines to standard output while it initialises, loads,
  *     generates, releases and deletes: "load from file ok", the number of each font size and line height, the
  *     document's times and language. They quote the document, control characters included. This interface
- *     adds no line of its own; queries by time write none.
+ *     adds no line of its own; queries by time write none. x_ttml_set_line_function() takes them elsewhere.
  *  8. Threads. Nothing locks. A handle belongs to one thread at a time; different handles share only the XML
  *     library. x_ttml_init_xerces(), x_ttml_uninit_xerces() and x_ttml_load_subtitle_from_file() change its
  *     count of initialisations: call x_ttml_init_xerces() before other threads start, and none of the three
  *     in two threads at a time. Lines of two threads may alternate. A thread must not be cancelled inside the
  *     library.
- *  9. Trust. Unless the library was built with XTTML_UNTRUSTED_XML, a document may have a document type
- *     declaration: what that names is read, from files and from the network, and entities are expanded.
+ *  9. Trust. Unless a parser distrusts its documents (x_ttml_set_untrusted(), or a library built with
+ *     XTTML_UNTRUSTED_XML), a document may have a document type declaration: what that names is read, from
+ *     files and from the network, and entities are expanded.
  *
  * Order of calls
  *

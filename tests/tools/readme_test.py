@@ -16,7 +16,7 @@ DOCUMENTS = {
 }
 PROGRAMS = {
     sys.argv[1]: "1000 to 2000 ms, 1024 x 768 px: 200000 UTF-16 units in #FFFFFFFF\n",
-    sys.argv[2]: "1000 to 2000 ms on 1024 x 768 px\n",
+    sys.argv[2]: f"1000 ms: 1 on screen\n  {('text' * 64)[:255]}\n",
 }
 
 
