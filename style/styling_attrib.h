@@ -48,10 +48,12 @@ class StylingAttrib {
 public:
     /// Every field as written beside it below.
     StylingAttrib() = default;
+    /// @{
     /// Copies every field, reserved fields and flags included. There is no move: a source keeps what it
     /// holds.
     StylingAttrib(const StylingAttrib&) = default;
     StylingAttrib& operator=(const StylingAttrib&) = default;
+    /// @}
     ~StylingAttrib() = default;
 
     /// tts:backgroundColor exactly as the document wrote it; rMapColor() turns it into numbers.
@@ -100,9 +102,11 @@ class StylingAttribGroup {
 public:
     /// No identifier and a default record.
     StylingAttribGroup() = default;
+    /// @{
     /// Copies both fields; there is no move.
     StylingAttribGroup(const StylingAttribGroup&) = default;
     StylingAttribGroup& operator=(const StylingAttribGroup&) = default;
+    /// @}
     ~StylingAttribGroup() = default;
 
     std::string strId;    ///< the element's xml:id; empty when it has none

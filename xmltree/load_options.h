@@ -17,7 +17,7 @@ struct LoadFault {
         REFUSED     ///< it has more than an untrusted document may have
     };
 
-    Kind kind = NONE;
+    Kind kind = NONE;         ///< what kind of fault; NONE as long as no load has failed
     std::string reason;       ///< in the words of the XML library or of the refusal; UTF-8
     std::uint64_t line = 0;   ///< where, counted from 1; 0: not known
     std::uint64_t column = 0; ///< where, counted from 1; 0: not known
