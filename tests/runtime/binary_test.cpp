@@ -17,7 +17,7 @@ std::string Text(const std::vector<unsigned char>& bytes) {
     return std::string(bytes.begin(), bytes.end());
 }
 
-std::vector<unsigned char> RandomBytes(std::mt19937_64& generator) {
+std::vector<unsigned char> RandomBytes(std::mt19937& generator) {
     std::vector<unsigned char> bytes(generator() % 100);
     for (unsigned char& byte : bytes) {
         byte = static_cast<unsigned char>(generator());
@@ -25,7 +25,7 @@ std::vector<unsigned char> RandomBytes(std::mt19937_64& generator) {
     return bytes;
 }
 
-std::string RandomText(std::mt19937_64& generator, const std::string& alphabet) {
+std::string RandomText(std::mt19937& generator, const std::string& alphabet) {
     std::string text(generator() % 20, ' ');
     for (char& c : text) {
         c = alphabet[generator() % alphabet.size()];
@@ -106,7 +106,7 @@ TEST(Hex, IsRejected) {
 }
 
 TEST(Binary, BytesGoOutAndComeBack) {
-    std::mt19937_64 generator(3);
+    std::mt19937 generator(3);
     for (int i = 0; i < 2000; ++i) {
         const std::vector<unsigned char> bytes = RandomBytes(generator);
         const std::string base64 = PrintBase64(bytes);
@@ -123,7 +123,7 @@ TEST(Binary, BytesGoOutAndComeBack) {
 }
 
 TEST(Binary, AnyTextIsReadWholeOrRejected) {
-    std::mt19937_64 generator(4);
+    std::mt19937 generator(4);
     int read = 0;
     for (int i = 0; i < 20000; ++i) {
         const std::string base64 = RandomText(generator, "TWFu09+/== \n");

@@ -245,7 +245,7 @@ TEST(DateTimes, AnyTextIsReadOrRejected) {
     for (int i = 0; i < 20000; ++i) {
         std::string text = Print(RandomDateTime(generator));
         for (int edits = static_cast<int>(generator() % 3); edits >= 0; --edits) {
-            text[generator() % text.size()] = "0123456789-:TZ.+ "[generator() % 17];
+            text[static_cast<std::size_t>(generator() % text.size())] = "0123456789-:TZ.+ "[generator() % 17];
         }
         try {
             const DateTime value = Read(text);

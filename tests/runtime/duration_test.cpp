@@ -164,7 +164,7 @@ TEST(Durations, GoOutAndComeBack) {
 }
 
 TEST(Durations, AnyTextIsReadOrRejected) {
-    std::mt19937_64 generator(14);
+    std::mt19937 generator(14);
     int read = 0;
     for (int i = 0; i < 50000; ++i) {
         std::string text = generator() % 4 == 0 ? "-P" : "P";
