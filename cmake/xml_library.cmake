@@ -3,9 +3,12 @@
 # own way; before 3.2 there is nothing to gain, since that way needs no dynamic_cast.
 set(XTTML_LINKED_SERIES 3.2 3.3)
 
-# Global, for the static library's users in the build that includes this one.
-if(NOT TARGET XercesC::XercesC)
-  find_package(XercesC 3.1 REQUIRED)
+# Found here it is made global, for the static library's users in a build that includes this one.
+if(TARGET XercesC::XercesC)
+  set(hostsOwn TRUE)
+endif()
+find_package(XercesC 3.1 REQUIRED)
+if(NOT hostsOwn)
   set_target_properties(XercesC::XercesC PROPERTIES IMPORTED_GLOBAL TRUE)
 endif()
 string(REGEX MATCH "^[0-9]+\\.[0-9]+" series "${XercesC_VERSION}")

@@ -83,9 +83,9 @@ class Subproject(unittest.TestCase):
     def test_the_static_library_installed(self):
         self.configure("-DXTTML_INSTALL=ON")
         self.assertLessEqual({"libxttml.a", "x_ttml.h", "xttml.pc", "xttmlConfig.cmake"}, self.files_installed())
-        clients, c_player = self.host / "clients", TESTS / "api" / "c_player_test.c"
+        clients, c_player, examples = self.host / "clients", TESTS / "api" / "c_player_test.c", TESTS.parent / "examples"
         run(CMAKE, "-S", TESTS / "install" / "clients", "-B", clients, f"-DCMAKE_PREFIX_PATH={self.prefix}",
-            f"-DCMAKE_C_COMPILER={CC}", f"-DCMAKE_CXX_COMPILER={CXX}", f"-DC_PLAYER={c_player}")
+            f"-DCMAKE_C_COMPILER={CC}", f"-DCMAKE_CXX_COMPILER={CXX}", f"-DC_PLAYER={c_player}", f"-DEXAMPLES={examples}")
         run(CMAKE, "--build", clients, "--target", "c_player")
         run(clients / "c_player")
 
