@@ -7,9 +7,11 @@ constexpr std::uint32_t uSpareItems = 4;
 } // namespace
 
 void OnScreenLists::vAddChange(std::int32_t iTime, std::uint32_t uBegun, std::uint32_t uEnded) {
+    if (windows_.uGetSize() == 0)
+        windows_.vAdd({INT32_MIN, 0, 0});
     uOnScreen_ = uOnScreen_ + uBegun - uEnded;
     uFewest_ = std::min(uFewest_, uOnScreen_);
-    if (windows_.uGetSize() > 0 && uListed_ + uBegun <= 2 * uFewest_ + uSpareItems) {
+    if (uListed_ + uBegun <= 2 * uFewest_ + uSpareItems) {
         uListed_ += uBegun;
     } else {
         uListedBefore_ += uListed_;

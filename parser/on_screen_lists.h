@@ -1,10 +1,10 @@
 // Which items are on screen at a time, in sequence order.
 //
 // The time line is cut into windows, and each has a list of all items that are on screen at any time in it. A
-// window ends before its list would be longer than twice the items that are always on screen in it, and a
-// few. So a walk over the list costs what its answer is long, the lists need no sorting since they are filled
-// in sequence order, and together they are never more than four times as long as the sequence: a window that
-// begins with many items lasts until half as many have come or gone.
+// window ends before its list would be longer than twice the fewest items on screen at a time in it, and a
+// few more. So a walk over the list costs no more than the answer is long; lists that are filled in sequence
+// order need no sorting; and together they are at most four times as long as the sequence, since a window
+// that begins with many items lasts until a good part of them have gone or as many have come.
 #ifndef XTTML_PARSER_ON_SCREEN_LISTS_H
 #define XTTML_PARSER_ON_SCREEN_LISTS_H
 

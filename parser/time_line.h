@@ -13,7 +13,7 @@ template <class Part>
 class TimeLine {
 public:
     void vReserve(std::size_t uParts) { vecParts_.reserve(uParts); }
-    /// Adds a part that begins after all others; all time before the first belongs to the first.
+    /// Adds a part that begins no earlier than the others; the first begins at the smallest time.
     void vAdd(const Part& part) { vecParts_.push_back(part); }
     /// To be called when all parts are there.
     void vMakeDirectory();
