@@ -69,14 +69,15 @@ XmlMemory xmlMemory;
 
 } // namespace
 
-void* operator new(std::size_t size) {
+// Not inlined, lest the compiler takes them for a pair that does not match.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     void* const block = own.Allocate(size);
     return block ? block : throw std::bad_alloc();
 }
-void operator delete(void* block) noexcept {
+[[gnu::noinline]] void operator delete(void* block) noexcept {
     own.Free(block);
 }
-void operator delete(void* block, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
     own.Free(block);
 }
 
