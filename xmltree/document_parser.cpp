@@ -32,16 +32,13 @@ struct OpenMap : DOMAttrMapImpl {
     static DOMNodeVector& NodesOf(DOMAttrMapImpl& map) { return *(map.*&OpenMap::fNodes); }
 };
 
-/// The element that a node is, or null.
-DOMElementImpl* ElementAt(DOMNode* node) {
-    return node->getNodeType() == DOMNode::ELEMENT_NODE ? static_cast<DOMElementImpl*>(node) : nullptr;
-}
-
 /// What links an element or a text to its siblings; null for a rarer kind of node.
 DOMChildNode* LinksOf(DOMNode* node) {
-    const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
-    DOMElementImpl* const element = ElementAt(node);
-    return isText ? &static_cast<DOMTextImpl*>(node)->fChild : element ? &element->fChild : nullptr;
+    const DOMNode::NodeType type = node->getNodeType();
+    if (type == DOMNode::TEXT_NODE) {
+        return &static_cast<DOMTextImpl*>(node)->fChild;
+    }
+    return type == DOMNode::ELEMENT_NODE ? &static_cast<DOMElementImpl*>(node)->fChild : nullptr;
 }
 
 /// A text in a buffer of its length, not 15 characters longer: the buffer that was released last is taken.
@@ -79,6 +76,9 @@ void Append(DOMParentNode& parent, Child& child) {
 
 } // namespace
 
+// Without a document type there are no references to entities: what has children is the document or an
+// element.
+
 void DocumentParser::startDocument() {
     elements_.clear();
     attributes_.clear();
@@ -86,22 +86,20 @@ void DocumentParser::startDocument() {
 }
 
 void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) {
-    const bool isNewText = !isCdata && fCurrentNode->getNodeType() != DOMNode::TEXT_NODE;
-    DOMElementImpl* const parent = isNewText ? ElementAt(fCurrentParent) : nullptr;
-    if (!parent) {
+    const bool isNewText = !isCdata && fWithinElement && fCurrentNode->getNodeType() != DOMNode::TEXT_NODE;
+    if (fDocumentType || !isNewText) {
         XercesDOMParser::docCharacters(characters, length, isCdata);
         return;
     }
     DOMTextImpl& text = MakeText(fDocument, characters, length);
-    Append(parent->fParent, text);
+    Append(static_cast<DOMElementImpl*>(fCurrentParent)->fParent, text);
     fCurrentNode = &text;
 }
 
 void DocumentParser::startElement(const XMLElementDecl& declaration, unsigned int namespaceId,
                                   const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
                                   XMLSize_t count, bool isEmpty, bool isRoot) {
-    DOMElementImpl* const parent = fDocumentType ? nullptr : ElementAt(fCurrentParent);
-    if (!parent) {
+    if (fDocumentType) {
         XercesDOMParser::startElement(declaration, namespaceId, prefix, attributes, count, isEmpty, isRoot);
         return;
     }
@@ -115,8 +113,13 @@ void DocumentParser::startElement(const XMLElementDecl& declaration, unsigned in
     for (XMLSize_t i = 0; i < count; ++i) {
         AddAttribute(&element, *attributes.elementAt(i));
     }
-    Append(parent->fParent, element);
+    if (fCurrentParent == fDocument) {
+        fDocument->appendChild(&element);
+    } else {
+        Append(static_cast<DOMElementImpl*>(fCurrentParent)->fParent, element);
+    }
     fCurrentParent = fCurrentNode = &element;
+    fWithinElement = true;
     if (isEmpty) {
         endElement(declaration, namespaceId, isRoot, prefix);
     }
@@ -124,13 +127,12 @@ void DocumentParser::startElement(const XMLElementDecl& declaration, unsigned in
 
 void DocumentParser::endElement(const XMLElementDecl& declaration, unsigned int namespaceId, bool isRoot,
                                 const XMLCh* prefix) {
-    const DOMElementImpl* const element = ElementAt(fCurrentParent);
-    DOMElementImpl* const parent = element ? ElementAt(element->fNode.fOwnerNode) : nullptr;
-    if (!parent) {
+    if (fDocumentType || isRoot) {
         XercesDOMParser::endElement(declaration, namespaceId, isRoot, prefix);
         return;
     }
-    fCurrentNode = std::exchange(fCurrentParent, parent);
+    fCurrentNode = fCurrentParent;
+    fCurrentParent = static_cast<DOMElementImpl*>(fCurrentNode)->fNode.fOwnerNode;
 }
 
 /// A node with the names of a known one or, the first time, the one that `make` makes.
