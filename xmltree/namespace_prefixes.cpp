@@ -206,7 +206,9 @@ std::string GetUnusedPrefix(const DOMNode* node, const std::string& base) {
 
 std::string FindUsablePrefix(const DOMNode* node, const std::string& namespaceURI) {
     const std::string prefix = FindPrefixForNamespace(node, namespaceURI);
-    const bool isUsable = !prefix.empty() && StandingAt(node, prefix, namespaceURI) == Standing::BOUND;
+    const bool isAscii = std::all_of(prefix.begin(), prefix.end(),
+                                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    const bool isUsable = isAscii && StandingAt(node, prefix, namespaceURI) == Standing::BOUND;
     return isUsable ? prefix : std::string();
 }
 

@@ -24,7 +24,7 @@ std::string GetUnusedPrefix(const xercesc::DOMNode* node, const std::string& bas
 
 /// What FindPrefixForNamespace gives, if a name written with it at `node` is in that namespace when the
 /// document is saved and loaded again; else empty. It is not when a name on the way down bears the prefix for
-/// another namespace without a declaration, and when narrowing has changed the prefix.
+/// another namespace without a declaration, and when the prefix is not ASCII: it has been narrowed.
 std::string FindUsablePrefix(const xercesc::DOMNode* node, const std::string& namespaceURI);
 
 /// A prefix to declare at `node` for a namespace that has no usable one there: the first of the row that
