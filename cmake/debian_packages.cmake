@@ -41,6 +41,9 @@ find the library.")
 
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME xttml)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
+# dpkg-shlibdeps finds the library of this build, but no package that holds it.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/api)
+set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "libxttml${XTTML_ABI} (>= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "show what a media player would show of TTML subtitles
 xttml loads a TTML subtitle document and tells which items a media player
 would have on screen, and when.")

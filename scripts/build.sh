@@ -57,7 +57,7 @@ install_packages() {
 }
 
 install_build_packages() {
-    install_packages g++=g++ cmake=cmake ninja-build=ninja libxerces-c-dev libcli11-dev nlohmann-json3-dev libpng-dev
+    install_packages g++=g++ cmake=cmake ninja-build=ninja libxerces-c-dev libcli11-dev nlohmann-json3-dev libfmt-dev
 }
 
 install_test_packages() {

@@ -1,4 +1,5 @@
-"""The floors of the house: includes run down only, no two files include each other, guards are named alike."""
+"""The floors of the house: includes run down only, what stands above the library includes what is installed, no two
+files include each other, guards are named alike."""
 
 import pathlib
 import re
@@ -39,6 +40,16 @@ def direction_faults(files):
                 yield f"{file} includes {name} from above"
 
 
+def interface_faults(files):
+    """Files above the library that include what is not installed. The installed headers go by angle brackets."""
+    library = FLOORS[:FLOORS.index("api") + 1]
+    for file, includes in files.items():
+        if file.split("/")[0] not in library:
+            for quote, name in includes:
+                if name.split("/")[0] in library:
+                    yield f"{file} includes {name}, which is not as installed"
+
+
 def cycle_faults(files):
     """Files that include each other, directly or through others."""
     done = set()
@@ -72,11 +83,11 @@ def xml_library_faults(files):
 
 
 def guard_faults(root, files):
-    """Headers whose include guard is not made from their path; a player includes his without its folder."""
+    """Headers whose include guard is not made from their path; a player includes those of api/ without it."""
     for file in files:
         if not file.endswith(".h"):
             continue
-        guard = "XTTML_" + re.sub(r"\W", "_", file[len("api/"):] if file in PLAYER_HEADERS else file).upper()
+        guard = "XTTML_" + re.sub(r"\W", "_", file.removeprefix("api/")).upper()
         if f"#ifndef {guard}\n#define {guard}\n" not in (root / file).read_text():
             yield f"{file} is not guarded by {guard}"
 
@@ -91,8 +102,8 @@ def output_faults(root, files):
 
 def faults(root):
     files = read_includes(root)
-    return [*direction_faults(files), *cycle_faults(files), *xml_library_faults(files), *guard_faults(root, files),
-            *output_faults(root, files)]
+    return [*direction_faults(files), *interface_faults(files), *cycle_faults(files), *xml_library_faults(files),
+            *guard_faults(root, files), *output_faults(root, files)]
 
 
 class House(unittest.TestCase):
@@ -106,6 +117,7 @@ class House(unittest.TestCase):
             "from above": {"style/a.cpp": '#include "parser/b.h"\n'},
             "no file of the house": {"parser/a.cpp": '#include "b.h"\n'},
             "angle brackets": {"parser/a.cpp": "#include <parser/b.h>\n"},
+            "not as installed": {"tools/a.cpp": '#include "parser/b.h"\n'},
             "cycle": {"style/c.h": guarded % ("STYLE_C", "STYLE_C", '#include "style/d.h"\n'),
                       "style/d.h": guarded % ("STYLE_D", "STYLE_D", '#include "style/c.h"\n')},
             "XML library": {"runtime/a.cpp": "#  include <xercesc/dom/DOM.hpp>\n"},

@@ -164,6 +164,12 @@ class InstalledTree(unittest.TestCase):
         self.assertEqual(re.search(r"^## (\S+)", changes, re.MULTILINE)[1], version)
         self.assertEqual(self.pkg_config("--modversion", "xttml"), [version])
 
+    def test_the_tool_is_a_client_of_the_library(self):
+        dynamic = run(GIVEN.readelf, "-dW", self.prefix / "bin" / "xttml")
+        self.assertIn("Shared library: [libxttml.so.", dynamic)
+        self.assertNotRegex(dynamic, "RPATH|RUNPATH")
+        self.assertNotIn("TtmlParser", run(GIVEN.readelf, "--symbols", "-W", self.prefix / "bin" / "xttml"))
+
     def version_in_header(self):
         text = "#include <x_ttml.h>\nXTTML_VERSION XTTML_VERSION_MAJOR XTTML_VERSION_MINOR XTTML_VERSION_PATCH\n"
         read = run(GIVEN.cc, "-x", "c", *C99, "-E", "-P", "-I", self.include, "-", input=text)

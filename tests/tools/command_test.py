@@ -1,5 +1,6 @@
 """The tool's options, exit codes, inputs and outputs."""
 
+import json
 import os
 import subprocess
 import tempfile
@@ -21,6 +22,7 @@ from tool_runs import (
 )
 
 FORCED = EXAMPLES / "forced.en.ttml"
+COMMANDS = ("list", "at", "play", "extract", "save")
 
 
 class Usage(unittest.TestCase):
@@ -29,7 +31,11 @@ class Usage(unittest.TestCase):
             [],
             ["show", FORCED],
             ["list"],
-            ["list", FORCED, "more"],
+            ["at", FORCED, "more"],
+            ["lst", FORCED],
+            ["--json"],
+            ["play", FORCED, "more"],
+            ["play", FORCED, "--full"],
             ["list", FORCED, "--offset"],
             ["list", FORCED, "--offset", "1.5"],
             ["list", FORCED, "--offset", "2147483648"],
@@ -37,7 +43,6 @@ class Usage(unittest.TestCase):
             ["at", FORCED],
             ["at", FORCED, "soon"],
             ["at", FORCED, "1000", "-5"],
-            ["at", FORCED, "00:00:01:12"],
             ["play", FORCED, "--from", "x"],
             ["play", FORCED, "--step", "0"],
             ["play", FORCED, "--from", "2s", "--to", "1s"],
@@ -45,12 +50,26 @@ class Usage(unittest.TestCase):
             with self.subTest(arguments):
                 done = run(*arguments)
                 self.assertEqual((done.returncode, done.stdout), (WRONG_USAGE, b""))
-                self.assertRegex(done.stderr, rb"\Axttml: .+\nTry 'xttml --help'\.\n\Z")
+                command = f"{arguments[0]} " if arguments and arguments[0] in COMMANDS else ""
+                self.assertRegex(done.stderr.decode(), rf"\Axttml: .+\nTry 'xttml {command}--help'\.\n\Z")
+
+    def test_the_reason_names_what_was_meant(self):
+        for arguments, reason in (
+            ([], "the commands are list, at, play, extract, save"),
+            (["lst", FORCED], "'lst' is neither a command nor a file; did you mean 'list'?"),
+            (["show"], "'show' is neither a command nor a file; the commands are list"),
+            (["play", FORCED, "--stop", "100"], "not expected: --stop 100"),
+        ):
+            self.assertIn(reason, run(*arguments).stderr.decode())
+
+    def test_a_file_alone_is_listed(self):
+        for words in ([FORCED], ["--json", FORCED], [FORCED, "--offset", "5"]):
+            self.assertEqual(output_of(*words), output_of("list", *words))
+        self.assertEqual(output_of("-", data=FORCED.read_bytes()), output_of("list", FORCED))
 
     def test_help_shows_examples_and_exit_codes(self):
-        for arguments in ([], ["list"], ["at"], ["play"]):
-            text = output_of(*arguments, "--help")
-            self.assertIn("Exit codes: 0", text)
+        for command in COMMANDS:
+            self.assertIn("Exit codes: 0", output_of(command, "--help"))
         self.assertIn("xttml at film.ttml 1500", output_of("--help"))
 
     def test_version(self):
@@ -63,9 +82,9 @@ class UnusableDocuments(unittest.TestCase):
         self.assertEqual((done.returncode, done.stdout), (FAILED, b""))
         lines = done.stderr.decode().split("\n")
         self.assertEqual(lines[1:], [""], "one line")
-        prefix = f"xttml: {arguments[1]}: "
+        prefix = f"xttml: {arguments[1]}:"
         self.assertTrue(lines[0].startswith(prefix), lines[0])
-        return lines[0][len(prefix):]
+        return lines[0][len(prefix):].lstrip()
 
     def test_what_is_no_readable_file(self):
         with tempfile.TemporaryDirectory() as folder:
@@ -89,56 +108,89 @@ class UnusableDocuments(unittest.TestCase):
 
     def test_what_is_no_usable_document(self):
         cases = (
-            (b"", None),
-            (b"plain text", None),
-            (b"<tt><body>", None),
-            (b"<a/>", "no tt root element"),
-            (document(root=' ttp:frameRate="fast"'), "fast"),
-            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '), "maybe"),
+            (b"", r"1:1: \w"),
+            (b"plain text", r"1:1: \w"),
+            (b"<tt>\n <body>", r"2:8: \w"),
+            (b"<a/>", "no tt root element$"),
+            (document(root=' ttp:frameRate="fast"'), "ttp:frameRate: 'fast'"),
+            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '),
+             "forcedDisplayMode: 'maybe'"),
+            (b'<!DOCTYPE tt SYSTEM "tt.dtd"><tt/>', r"1:\d+: A document type declaration is not allowed"),
         )
         for data, expected in cases:
             with tempfile.NamedTemporaryFile(suffix=".ttml") as file, self.subTest(data):
-                if data.startswith(b"<?xml") and b"<p" not in data:
+                if data.startswith(b"<?xml") and b"<p" not in data:  # without a paragraph no rate is read
                     data = data.replace(b"<div>", b"<div><p/>")
                 file.write(data)
                 file.flush()
-                for command in (["list"], ["play"], ["at", "0"]):
-                    from_file = self.reason([command[0], file.name, *command[1:]])
-                    from_memory = self.reason([command[0], "-", *command[1:]], data)
-                    self.assertEqual(from_file, from_memory)
-                    self.assertIn(expected or "Xerces SAX error while loading: ", from_file)
+                for command, *rest in (["list"], ["play"], ["at", "0"], ["save", "-o", "-"]):
+                    if command == "save" and "'" in expected:  # reads no value
+                        continue
+                    from_file = self.reason([command, file.name, *rest])
+                    self.assertEqual(from_file, self.reason([command, "-", *rest], data))
+                    self.assertRegex(from_file, rf"\A{expected}")
 
     def test_control_characters_do_not_reach_the_terminal(self):
         reason = self.reason(["list", "-"], b"<tt>\n</t\xc2\x9bt>")
         self.assertFalse([c for c in reason if ord(c) < 32 or 127 <= ord(c) < 160], reason)
 
 
+    def test_a_trusted_document_names_others_beside_it(self):
+        with tempfile.TemporaryDirectory() as folder:
+            with open(f"{folder}/hi.txt", "wb") as file:
+                file.write(b"there")
+            with open(f"{folder}/film.ttml", "wb") as file:
+                file.write(b'<!DOCTYPE tt [<!ENTITY hi SYSTEM "hi.txt">]>'
+                           b"<tt><body><div><p>x<span>&hi;</span></p></div></body></tt>")
+            self.assertEqual(self.reason(["list", f"{folder}/film.ttml"])[:2], "1:")
+            self.assertIn("1 item", lines_of("list", f"{folder}/film.ttml", "--trusted")[0])
+            os.remove(f"{folder}/hi.txt")
+            self.assertIn("hi.txt", self.reason(["list", f"{folder}/film.ttml", "--trusted"]))
+
+
 class Inputs(unittest.TestCase):
+    def test_several_documents_and_one_that_is_unusable(self):
+        frames = EXAMPLES / "frames.de.ttml"
+        alone = {file: run("list", file).stdout.decode() for file in (FORCED, frames)}
+        done = run("list", FORCED, "/none.ttml", frames)
+        self.assertEqual(done.stdout.decode(), "".join(f"{file}: {table}" for file, table in alone.items()))
+        self.assertEqual((done.returncode, done.stderr), (FAILED, b"xttml: /none.ttml: No such file or directory\n"))
+        objects = output_of("list", FORCED, frames, "--json")
+        self.assertEqual(objects, output_of("list", FORCED, "--json") + output_of("list", frames, "--json"))
+
     def test_standard_input_gives_what_the_file_gives(self):
         for example in sorted(EXAMPLES.glob("*.ttml")):
             data = example.read_bytes()
             for command in (["list"], ["list", "--json"], ["play"], ["at", "2s", "--json"]):
-                self.assertEqual(
-                    output_of(command[0], example, *command[1:]), output_of(command[0], "-", *command[1:], data=data)
-                )
+                from_file = output_of(command[0], example, *command[1:]).replace(str(example), "-")
+                self.assertEqual(from_file, output_of(command[0], "-", *command[1:], data=data))
 
     def test_paths_in_any_script_under_any_locale(self):
         with tempfile.TemporaryDirectory() as folder:
-            for name in ("-film.ttml", "Größe 50%.ttml", "עברית.ttml", "100%25#1?.ttml"):
+            for name in ("-film.ttml", "Größe 50%.ttml", "עברית.ttml", "100%25#1?.ttml", "caf\udce9.ttml"):
                 with open(f"{folder}/{name}", "wb") as file:
                     file.write(document(("1s", "2s", "here")))
                 for locale in ("C", "C.UTF-8"):
-                    done = run("list", "--", name, cwd=folder, env=environment(LC_ALL=locale))
+                    done = run("list", "--json", "--", name, cwd=folder, env=environment(LC_ALL=locale))
                     self.assertEqual(done.returncode, DONE, done.stderr)
                     self.assertIn(b"here", done.stdout)
+                    json.loads(done.stdout.decode())
 
     def test_offset_moves_every_time(self):
         data = document(("1s", "2s", "a"), (None, None, "b"))
-        for offset, times in ((500, [[1500, 2500], [499, 499]]), (-1500, [[-500, 500], [-1501, -1501]])):
+        for offset, times in ((500, [1500, 2500]), (-1500, [-500, 500]), (2147483647, [2147484647, 2147485647])):
             listed = json_of("list", "-", "--offset", offset, data=data)
-            self.assertEqual([[item["begin"], item["end"]] for item in listed["items"]], times)
+            self.assertEqual([[item["begin"], item["end"]] for item in listed["items"]], [times, [-1, -1]])
         table = lines_of("list", "-", "--offset", "-1500", data=data)
         self.assertRegex(table[2], r"-00:00:00\.500 +00:00:00\.500")
+        self.assertRegex(table[3], r"2 +- +- ")
+        for offset, begin in ((5000, 6000), (-1500, -500)):
+            shown = output_of("play", "-", "--json", "--offset", offset, data=data).splitlines()
+            self.assertEqual([json.loads(line)["time"] for line in shown], [begin, begin + 1001])
+            found = json_of("at", "-", str(max(begin, 0)), str(begin + 1001), "--offset", offset, data=data)
+            self.assertEqual([len(answer["items"]) for answer in found], [1, 0])
+        before = json_of("at", "-", "0", "--offset", 5000, data=document((None, "2s", "a")))[0]
+        self.assertEqual((before["items"], before["next"]["end"]), ([], 7000))
 
     def test_many_items(self):
         count = 3000
@@ -186,6 +238,11 @@ class LibraryLines(unittest.TestCase):
         self.assertIn("load from file failed", told)
         self.assertEqual(told[-1], "xttml: -: no tt root element")
 
+    def test_they_bring_no_control_character(self):
+        for data in (document(root=' xml:lang="a&#10;document&#9;&#x11B;"'), "<tt>\n</t\u011b\x9b>".encode()):
+            told = run("list", "-", "--verbose", data=data).stderr.decode()
+            self.assertFalse([c for c in told if c != "\n" and (ord(c) < 32 or 127 <= ord(c) < 160)], told)
+
 
 class FailingOutput(unittest.TestCase):
     def check(self, done):
@@ -200,7 +257,9 @@ class FailingOutput(unittest.TestCase):
     def test_reader_gone(self):
         reader, writer = os.pipe()
         os.close(reader)
-        self.check(run("list", FORCED, output=writer))
+        for arguments in (["--help"], ["list", FORCED], ["play", FORCED, "--realtime"], ["save", FORCED, "-o", "-"]):
+            done = run(*arguments, output=writer)
+            self.assertEqual((done.returncode, done.stderr), (DONE, b""))
         os.close(writer)
 
     def test_closed(self):

@@ -51,8 +51,8 @@ DOCUMENTS = {
 }
 
 
-def listed(name):
-    return json_of("list", EXAMPLES / f"{name}.ttml")
+def listed(name, *options):
+    return json_of("list", EXAMPLES / f"{name}.ttml", *options)
 
 
 class Examples(unittest.TestCase):
@@ -69,11 +69,13 @@ class Examples(unittest.TestCase):
 
     def test_documents(self):
         for name, facts in DOCUMENTS.items():
-            self.assertEqual(tuple(listed(name)["document"].values()), facts, name)
+            file, *found = listed(name)["document"].values()
+            self.assertEqual((file, *found), (str(EXAMPLES / f"{name}.ttml"), *facts))
 
     def test_styling_comes_from_region_style_and_paragraph(self):
-        items = listed("lighthouse.en")["items"]
+        items = listed("lighthouse.en", "--full")["items"]
         self.assertTrue(items[0]["hasRegion"] and items[0]["hasStyle"])
+        self.assertEqual([items[0][name] for name in ("id", "region", "style")], [None, "bottom", "speech"])
         expected = {
             "backgroundColor": {"text": "rgba(0,0,0,160)", "rgba": [0, 0, 0, 160]},
             "color": {"text": "white", "rgba": [255, 255, 255, 255]},
@@ -97,7 +99,7 @@ class Examples(unittest.TestCase):
                          ["color", "fontSize", "lineHeight", "textAlign"])
 
     def test_nested_spans_become_runs(self):
-        runs = listed("lighthouse.en")["items"][2]["runs"]
+        runs = listed("lighthouse.en", "--full")["items"][2]["runs"]
         fields = ("color", "fontStyle", "fontWeight", "textDecoration")
         self.assertEqual(
             [(r["text"], r["styling"] and [r["styling"][f] for f in fields]) for r in runs],
@@ -108,6 +110,15 @@ class Examples(unittest.TestCase):
                 (" the tower", [{"text": "yellow", "rgba": [255, 255, 0, 255]}, "italic", "normal", "none"]),
                 (". Over.", None),
             ],
+        )
+
+    def test_without_full_a_run_tells_what_it_has_otherwise_than_its_item(self):
+        runs = listed("lighthouse.en")["items"][2]["runs"]
+        yellow = {"text": "yellow", "rgba": [255, 255, 0, 255]}
+        self.assertEqual(
+            [run.get("styling") for run in runs],
+            [None, {"color": yellow}, {"color": yellow, "fontWeight": "bold", "textDecoration": "underline"},
+             {"color": yellow}, None],
         )
 
     def test_forced_display_and_visibility(self):
@@ -123,9 +134,10 @@ class Examples(unittest.TestCase):
         self.assertEqual(
             rows[:2],
             [
-                ["#", "BEGIN", "END", "BOX", "COLOUR", "BACKGROUND", "FONT/LINE", "ALIGN", "TEXT"],
+                ["#", "BEGIN", "END", "BOX", "COLOUR", "BACKGROUND", "FONT/LINE", "ALIGN", "REGION", "STYLE",
+                 "TEXT"],
                 ["1", "00:00:01.000", "00:00:03.500", "1024x108+128+576", "white", "rgba(0,0,0,160)", "36/45",
-                 "center after", "The light has been out since midnight.⏎Nobody called it in."],
+                 "center after", "bottom", "speech", "The light has been out since midnight.⏎Nobody called it in."],
             ],
         )
         self.assertIn(["run 3", "yellow", "transparent", "32/- bold italic underline", "approach"], rows)

@@ -48,17 +48,24 @@ class Images(unittest.TestCase):
                     "offset": offset,
                     "width": styling["extentWidth"],
                     "height": styling["extentHeight"],
-                    "uri": "",
                 },
             )
             offset += len(picture)
         self.assertEqual([item["forcedDisplay"] for item in items], [False, False, True, False])
 
     def test_several_files_make_a_block(self):
-        parts = [self.write(f"{i}.png", picture) for i, picture in enumerate(self.pictures)]
-        self.assertEqual(
-            lines_of("list", DOCUMENT, "--images", *parts), lines_of("list", DOCUMENT, "--images", BLOCK)
-        )
+        images = []
+        for i, picture in enumerate(self.pictures):
+            images += ["--images", self.write(f"{i}.png", picture)]
+        self.assertEqual(lines_of("list", *images, DOCUMENT), lines_of("list", DOCUMENT, "--images", BLOCK))
+
+    def test_items_carry_the_names_of_their_divisions(self):
+        divisions = [division("1s", 1), division("2s", 31), division("3s", 2), f"<div>{division('4s', 3)}</div>"]
+        names = [f'<div xml:id="{i}" region="r{i}" ' for i in range(4)]
+        divisions = [d[::-1].replace("<div "[::-1], name[::-1], 1)[::-1] for d, name in zip(divisions, names)]
+        document = self.write("d.ttml", (IMAGES % "".join(divisions)).encode())
+        items = json_of("list", document, "--images", BLOCK)["items"]
+        self.assertEqual([(item["id"], item["region"]) for item in items], [("0", "r0"), ("2", "r2"), ("3", "r3")])
 
     def test_at_and_play_show_pictures(self):
         forced = f"[forced] 579x56+350+616  image 579x56 px, {len(self.pictures[2])} bytes at "
@@ -96,11 +103,13 @@ class Images(unittest.TestCase):
         document = self.write("d.ttml", (IMAGES % (division("1s", 1) + division("2s", 2))).encode())
         block = self.write("block", b"no picture")
         items = json_of("list", document, "--images", block)["items"]
-        self.assertEqual(items[0]["image"], {"bytes": 10, "offset": 0, "width": None, "height": None, "uri": ""})
-        self.assertEqual(items[1]["image"], {"bytes": 0, "offset": None, "width": None, "height": None, "uri": ""})
+        self.assertEqual(items[0]["image"], {"bytes": 10, "offset": 0, "width": None, "height": None})
+        self.assertEqual(items[1]["image"], {"bytes": 0, "offset": None, "width": None, "height": None})
 
     def test_failures(self):
         empty = self.write("empty", b"")
+        text = self.write("text", b"\x89PNG, not quite")
+        out = self.path / "out"
         untimed = self.write("u.ttml", (IMAGES % division("1s", 1).replace(' end="9s"', "")).encode())
         for arguments, code, reason in (
             (("list", DOCUMENT, "--images", self.path / "none"), FAILED, b"none: No such file"),
@@ -109,11 +118,14 @@ class Images(unittest.TestCase):
             (("extract", DOCUMENT, "--to", self.path), WRONG_USAGE, b"--images"),
             (("extract", DOCUMENT, "--images", BLOCK), WRONG_USAGE, b"--to"),
             (("extract", DOCUMENT, "--images", BLOCK, "--to", empty), FAILED, b"empty"),
+            (("extract", EXAMPLES / "ticks.en.ttml", "--images", BLOCK, "--to", out), FAILED, b"shows no picture"),
+            (("extract", DOCUMENT, "--images", text, "--to", out), FAILED, b"at 00:00:01.000 is no PNG file"),
         ):
             done = run(*arguments)
             self.assertEqual(done.returncode, code, arguments)
             self.assertIn(reason, done.stderr)
             self.assertEqual(done.stdout, b"")
+            self.assertFalse(out.exists())
 
 
 if __name__ == "__main__":

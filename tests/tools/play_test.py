@@ -1,5 +1,6 @@
 """What `at` and `play` show over time."""
 
+import json
 import time
 import unittest
 
@@ -34,14 +35,26 @@ class Play(unittest.TestCase):
             ],
         )
 
-    # Paragraphs and the spans in which a player that asks for each millisecond sees them.
+    # Paragraphs; when each is on screen; what a player sees that asks for the first item at each millisecond, where
+    # that is something else.
     DOCUMENTS = {
-        "touching": ([("0s", "1s", "a"), ("1s", "2s", "b")], [("a", 0, 1000), ("b", 1001, 2000)]),
+        "touching": (
+            [("0s", "1s", "a"), ("1s", "2s", "b")],
+            [("a", 0, 1000), ("b", 1000, 2000)],
+            [("a", 0, 1000), ("b", 1001, 2000)],
+        ),
         "gap": ([("1s", "2s", "a"), ("1h", "3601s", "b")], [("a", 1000, 2000), ("b", 3600000, 3601000)]),
-        "inside a longer one": ([("1s", "5s", "a"), ("2s", "3s", "b")], [("a", 1000, 5000)]),
-        "outlasting": ([("1s", "3s", "a"), ("2s", "5s", "b")], [("a", 1000, 3000), ("b", 3001, 5000)]),
+        "inside a longer one": (
+            [("1s", "5s", "a"), ("2s", "3s", "b")], [("a", 1000, 5000), ("b", 2000, 3000)], [("a", 1000, 5000)]
+        ),
+        "outlasting": (
+            [("1s", "3s", "a"), ("2s", "5s", "b")],
+            [("a", 1000, 3000), ("b", 2000, 5000)],
+            [("a", 1000, 3000), ("b", 3001, 5000)],
+        ),
         "before a longer one": (
             [("2s", "3s", "b"), ("1s", "5s", "a")],
+            [("a", 1000, 5000), ("b", 2000, 3000)],
             [("a", 1000, 1999), ("b", 2000, 3000), ("a", 3001, 5000)],
         ),
         "out of order": ([("5s", "6s", "b"), ("3s", "4s", "a")], [("a", 3000, 4000), ("b", 5000, 6000)]),
@@ -58,12 +71,34 @@ class Play(unittest.TestCase):
         "hundred hours": ([("100:00:00", "100:00:01", "a")], [("a", 360000000, 360001000)]),
     }
 
-    def test_shows_what_a_player_sees(self):
-        for name, (paragraphs, spans) in self.DOCUMENTS.items():
-            with self.subTest(name):
-                expected = [(begin, "+", text) for text, begin, _ in spans]
-                expected += [(end + 1, "-", text) for text, _, end in spans]
-                self.assertEqual(changes(document(*paragraphs)), sorted(expected, key=lambda c: (c[0], c[1] == "+")))
+    def test_shows_what_is_on_screen(self):
+        for name, (paragraphs, *answers) in self.DOCUMENTS.items():
+            for options, spans in (([], answers[0]), (["--first"], answers[-1]), (["--step", "1"], answers[0])):
+                with self.subTest(name, options=options):
+                    expected = [(begin, "+", text) for text, begin, _ in spans]
+                    expected += [(end + 1, "-", text) for text, _, end in spans]
+                    expected.sort(key=lambda change: (change[0], change[1] == "+"))
+                    self.assertEqual(changes(document(*paragraphs), *options), expected)
+
+    def test_an_endless_silence_takes_no_time(self):
+        started = time.monotonic()
+        lines = lines_of("play", "-", "--step", "1", data=document((None, None, "x"), ("5s", None, "y")))
+        self.assertEqual(lines, ["nothing comes on screen"])
+        self.assertLess(time.monotonic() - started, 10)
+
+    def test_many_at_once(self):
+        data = document(*(("1s", "2s", str(i)) for i in range(50)))
+        self.assertEqual([text for _, _, text in changes(data)], [str(i) for i in range(50)] * 2)
+        self.assertEqual(len(changes(data, "--first")), 8)
+        self.assertEqual(len(lines_of("at", "-", "1s", data=data)), 51)
+
+    def test_json_is_an_object_a_line(self):
+        lines = [json.loads(line) for line in lines_of("play", FORCED, "--json")]
+        self.assertEqual(
+            [(line["time"], line["change"], line["item"]["text"][:8]) for line in lines[:3]],
+            [(1000, "comes", "PLATFORM"), (4001, "goes", "PLATFORM"), (5000, "comes", "Is this ")],
+        )
+        self.assertEqual(lines[0]["item"], json_of("list", FORCED)["items"][0])
 
     def test_from_and_to(self):
         data = document(("1s", "2s", "a"), ("3s", "4s", "b"))
@@ -73,10 +108,15 @@ class Play(unittest.TestCase):
         self.assertEqual(lines_of("play", "-", "--from", "5s", data=data), ["nothing comes on screen"])
         self.assertEqual(changes(data, "--from", "2000", "--to", "2000"), [(2000, "+", "a")])
 
-    def test_step_decides_what_an_unordered_document_may_hide(self):
-        data = document(("5s", "6s", "b"), ("3s", "3.5s", "a"))
-        self.assertIn((3000, "+", "a"), changes(data, "--from", "0", "--step", "400"))
-        self.assertNotIn("a", [text for _, _, text in changes(data, "--from", "0", "--step", "4000")])
+    def test_frames_are_those_of_the_document(self):
+        frames = EXAMPLES / "frames.de.ttml"
+        self.assertEqual(lines_of("at", frames, "00:00:01:12")[0], "00:00:01.480")
+        self.assertEqual(lines_of("play", frames, "--from", "00:00:05:00", "--to", "00:00:05:24"),
+                         ["00:00:05.000  +  Bild 125 bis Bild 150."])
+        beyond = run("at", frames, "00:00:01:25")
+        self.assertEqual(beyond.returncode, 1)
+        self.assertIn(b"has no frame 25 of a second: there are 25", beyond.stderr)
+        self.assertEqual(lines_of("at", "-", "00:00:00:15", data=document())[0], "00:00:00.500")
 
     def test_hidden_text_is_not_seen(self):
         data = document(("1s", "2s", '<span tts:visibility="hidden">a<br/>b</span>'))
@@ -119,9 +159,19 @@ class At(unittest.TestCase):
         self.assertEqual([len(answer["items"]) for answer in answers], [0, 2])
         self.assertEqual(answers[0]["next"]["text"], "PLATFORM 9 CLOSED")
         self.assertEqual([answer["merged"] for answer in answers], [None, None])
-        combined = json_of("at", FORCED, "6s", "--combine")[0]
+        combined = json_of("at", FORCED, "6s", "--combine", "--full")[0]
         self.assertEqual(combined["merged"], "Is this the train to Basel?\nIt was. Yesterday.")
         self.assertTrue(combined["items"][0]["combined"])
+
+    def test_the_next_is_the_next_in_time(self):
+        data = document((None, None, "x"), ("9s", "10s", "b"), ("5s", "6s", "a"))
+        for options, text in (([], "a"), (["--first"], "x")):
+            self.assertEqual(json_of("at", "-", "1s", *options, data=data)[0]["next"]["text"], text)
+
+    def test_first_hides_what_overlaps(self):
+        data = document(("1s", "9s", "a"), ("2s", "3s", "b"))
+        for options, count in (([], 2), (["--first"], 1), (["--combine"], 1)):
+            self.assertEqual(len(json_of("at", "-", "2s", *options, data=data)[0]["items"]), count)
 
     def test_a_time_beyond_all_others_is_a_time(self):
         self.assertEqual(run("at", FORCED, "2147483647").returncode, DONE)

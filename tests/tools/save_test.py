@@ -5,7 +5,7 @@ import pathlib
 import tempfile
 import unittest
 
-from tool_runs import EXAMPLES, FAILED, WRONG_USAGE, document, lines_of, main, run
+from tool_runs import EXAMPLES, FAILED, WRONG_USAGE, document, json_of, lines_of, main, run
 
 HEBREW = EXAMPLES / "market.he.ttml"
 
@@ -17,6 +17,7 @@ FORMS = (
     (("--encoding", "utf-16be"), b"\0<", "utf-16-be"),
     (("--encoding", "UTF-16BE", "--bom"), codecs.BOM_UTF16_BE, "utf-16"),
     (("--encoding", "UTF-16LE"), b"<\0", "utf-16-le"),
+    (("--encoding", "UTF-16BE", "--big-endian"), b"\0<", "utf-16-be"),
     (("--encoding", "UTF-16", "--big-endian"), codecs.BOM_UTF16_BE, "utf-16"),
     (("--encoding", "ISO-8859-1"), b"<?xml", "latin-1"),
     (("--pretty",), b"<?xml", "utf-8"),
@@ -33,7 +34,7 @@ class Save(unittest.TestCase):
         before = lines_of("list", HEBREW)
         for options, opening, codec in FORMS:
             with self.subTest(options):
-                self.assertEqual(lines_of("save", HEBREW, "-o", self.out, *options), [""])
+                self.assertEqual(lines_of("save", HEBREW, "-o", self.out, "--force", *options), [""])
                 saved = self.out.read_bytes()
                 self.assertTrue(saved.startswith(opening), saved[:20])
                 self.assertIn("<tt ", saved.decode(codec))
@@ -47,17 +48,43 @@ class Save(unittest.TestCase):
 
     def test_failures(self):
         self.out.write_bytes(b"mine")
+        force = (HEBREW, "--force", "-o", self.out)
         for arguments, code, reason in (
-            ((HEBREW, "-o", self.out, "--encoding", "no-such"), FAILED, b"Xerces XML error while saving"),
+            ((*force, "--encoding", "no-such"), FAILED, b"the encoding 'no-such' is not known"),
+            ((*force, "--encoding", ""), FAILED, b"the encoding '' is not known"),
+            ((*force, "--encoding", "UTF-7"), FAILED, b"'UTF-7'"),
+            ((*force, "--encoding", "UTF-16LE", "--big-endian"), WRONG_USAGE, b"no meaning in UTF-16LE"),
+            ((*force, "--big-endian"), WRONG_USAGE, b"no meaning in UTF-8"),
+            ((HEBREW, "-o", self.out), FAILED, b"out.ttml: exists; --force replaces it"),
+            ((HEBREW, "-o", self.out.parent, "--force"), FAILED, b"Is a directory"),
             ((HEBREW, "-o", self.out.parent / "no" / "file"), FAILED, b"No such file"),
             ((HEBREW, "-o", "/dev/full"), FAILED, b"No space left"),
-            ((EXAMPLES / "README.md", "-o", self.out), FAILED, b"Xerces SAX error while loading"),
+            ((EXAMPLES / "README.md", "-o", self.out), FAILED, b"README.md:1:1: "),
             ((HEBREW,), WRONG_USAGE, b"--output"),
         ):
             done = run("save", *arguments)
             self.assertEqual(done.returncode, code, arguments)
             self.assertIn(reason, done.stderr)
         self.assertEqual(self.out.read_bytes(), b"mine", "what cannot be saved replaces nothing")
+        self.assertEqual(list(self.out.parent.iterdir()), [self.out])
+
+    def test_what_is_replaced_keeps_its_mode_and_its_links(self):
+        target = self.out.parent / "target.ttml"
+        target.write_bytes(b"old")
+        target.chmod(0o640)
+        self.out.symlink_to(target)
+        lines_of("save", HEBREW, "-o", self.out, "--force")
+        self.assertTrue(self.out.is_symlink())
+        self.assertEqual((target.stat().st_mode & 0o777, target.read_bytes()[:5]), (0o640, b"<?xml"))
+
+    def test_nothing_is_lost_on_the_way(self):
+        text = "a&#13;b &#x1F600; &amp;amp; <![CDATA[<c> ]]>]]&gt;\u20ac\u05d0"
+        data = document(("1s", "2s", text)).replace(b"<p ", "<p xml:id='x&#10;\t&quot;\u00e9' ".encode())
+        shown = json_of("list", "-", data=data)["items"]
+        for encoding in ("UTF-8", "UTF-16", "ISO-8859-1", "windows-1252", "US-ASCII"):
+            saved = run("save", "-", "-o", "-", "--encoding", encoding, data=data)
+            self.assertEqual(saved.returncode, 0, saved.stderr)
+            self.assertEqual(json_of("list", "-", data=saved.stdout)["items"], shown)
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
-#include "tools/xttml/json_output.h"
-#include "tools/xttml/media_time.h"
-#include "tools/xttml/text_encoding.h"
+#include "tools/xttml/document/image_block.h"
+#include "tools/xttml/output/json_output.h"
+#include "tools/xttml/text/media_time.h"
+#include "tools/xttml/text/text_encoding.h"
 
 #include <gtest/gtest.h>
 
@@ -54,24 +55,30 @@ TEST(TextEncoding, CountsCodePoints) {
     EXPECT_EQ(CodePoints("aä⏎😀"), 4U);
 }
 
-TEST(JsonOutput, HoldsValidTextForLoneSurrogates) {
-    TextItem item;
-    item.styling.strColor = "\xFF\x01";
-    item.vecSentence.push_back(new Sentence);
-    item.vecSentence[0]->vecText = {0xD800, u'x'};
-    item.vecSentence.push_back(new Sentence);
-    item.vecSentence[1]->vecText = {0xDC00};
-    item.vecContent = {0xDFFF};
-    const Json json = Json::parse(ItemToJson(item, ImageBlock(std::vector<std::string>())).dump());
-    EXPECT_EQ(json.at("text"), "\xEF\xBF\xBDx\xEF\xBF\xBD");
-    EXPECT_EQ(json.at("runs").at(0).at("text"), "\xEF\xBF\xBDx");
-    EXPECT_EQ(json.at("content"), "\xEF\xBF\xBD");
-    EXPECT_EQ(json.at("styling").at("color").at("text"), "\xC3\xBF\x01");
+TEST(JsonOutput, EscapesEveryControlCharacter) {
+    const std::string text = "a\n\x7F\xC2\x80\xC2\x9F\xC2\xA0ä";
+    EXPECT_EQ(ToText(text), "\"a\\n\\u007f\\u0080\\u009f\xC2\xA0ä\"");
+    EXPECT_EQ(Json::parse(ToText(text)), text);
+}
+
+std::string PngFile(std::string_view header, std::string_view size) {
+    return "\x89PNG\r\n\x1A\n" + std::string("\0\0\0\x0D", 4) + std::string(header) + std::string(size);
+}
+
+TEST(ImageBlock, ReadsTheSizeFromTheHeaderAlone) {
+    const std::string_view size("\0\0\1\2\x80\0\0\3", 8);
+    const std::optional<PixelSize> found = PixelSizeOf(PngFile("IHDR", size));
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->width, 258U);
+    EXPECT_EQ(found->height, 0x80000003U);
+    for (const std::string& no : {PngFile("IHDR", size.substr(0, 7)), PngFile("IDAT", size),
+                                  PngFile("IHDR", size).substr(1), std::string()})
+        EXPECT_FALSE(PixelSizeOf(no));
 }
 
 struct TimeCase {
     const char* text;
-    std::optional<std::int32_t> milliseconds;
+    std::optional<MediaTime> milliseconds;
 };
 
 const TimeCase timeCases[] = {
@@ -80,6 +87,7 @@ const TimeCase timeCases[] = {
     {"1500ms", 1500},
     {"1.5s", 1500},
     {"0.1s", 100},
+    {".5s", 500},
     {"1.2349999999999999s", 1234},
     {"2m", 120000},
     {"1.5h", 5400000},
@@ -101,7 +109,8 @@ const TimeCase timeCases[] = {
     {"1 s", std::nullopt},
     {"1.5", std::nullopt},
     {"1.s", std::nullopt},
-    {".5s", std::nullopt},
+    {".5", std::nullopt},
+    {".s", std::nullopt},
     {"1e3", std::nullopt},
     {"0x10", std::nullopt},
     {"10f", std::nullopt},
@@ -112,12 +121,24 @@ const TimeCase timeCases[] = {
     {"00:00:01.", std::nullopt},
     {"00:00:01.5s", std::nullopt},
     {"00::01", std::nullopt},
-    {"00:00:01:12", std::nullopt},
+    {"00:00:01:", std::nullopt},
+    {"00:00:01:12.5", std::nullopt},
+    {"00:00:01.5:12", std::nullopt},
+    {"00:01:12:00:00", std::nullopt},
 };
 
 TEST(MediaTime, ReadsTimes) {
-    for (const TimeCase& c : timeCases)
-        EXPECT_EQ(ParseTime(c.text), c.milliseconds) << "'" << c.text << "'";
+    for (const TimeCase& c : timeCases) {
+        const std::optional<WrittenTime> time = ParseTime(c.text);
+        EXPECT_EQ(time ? std::optional(time->milliseconds) : std::nullopt, c.milliseconds)
+            << "'" << c.text << "'";
+        EXPECT_FALSE(time && time->hasFrames);
+    }
+}
+
+TEST(MediaTime, ReadsFrames) {
+    const WrittenTime time = ParseTime("00:01:02:03").value();
+    EXPECT_EQ(std::tie(time.milliseconds, time.frames, time.hasFrames), std::make_tuple(62000, 3, true));
 }
 
 TEST(MediaTime, ReadsSignedIntegersOf32Bits) {
@@ -132,8 +153,9 @@ TEST(MediaTime, WritesTimes) {
     EXPECT_EQ(FormatTime(3723040), "01:02:03.040");
     EXPECT_EQ(FormatTime(2147483647), "596:31:23.647");
     EXPECT_EQ(FormatTime(-500), "-00:00:00.500");
-    EXPECT_EQ(FormatTime(-2147483647 - 1), "-596:31:23.648");
-    EXPECT_EQ(FormatTime(-1), "-");
+    EXPECT_EQ(FormatTime(-1), "-00:00:00.001");
+    EXPECT_EQ(FormatTime(std::int64_t{2147483647} * 2), "1193:02:47.294");
+    EXPECT_EQ(FormatTime(std::nullopt), "-");
 }
 
 } // namespace

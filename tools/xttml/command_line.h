@@ -2,7 +2,12 @@
 #ifndef XTTML_TOOLS_XTTML_COMMAND_LINE_H
 #define XTTML_TOOLS_XTTML_COMMAND_LINE_H
 
-#include <cstdint>
+#include "tools/xttml/document/document.h"
+#include "tools/xttml/document/saved_document.h"
+#include "tools/xttml/document/screen.h"
+#include "tools/xttml/output/json_output.h"
+#include "tools/xttml/output/output_file.h"
+
 #include <optional>
 #include <string>
 #include <variant>
@@ -12,45 +17,46 @@ namespace xttml {
 
 /// xttml list
 struct ListOptions {
-    std::int32_t offset = 0; ///< ms added to every time
     bool json = false;
+    Detail detail = Detail::ESSENTIAL;
+    bool namesFiles = false; ///< there are several
 };
 
 /// xttml at
 struct AtOptions {
-    std::vector<std::int32_t> times; ///< ms
+    std::vector<WrittenTime> times;
+    Query query = Query::ALL;
     bool combine = false;
     bool json = false;
+    Detail detail = Detail::ESSENTIAL;
 };
 
 /// xttml play
 struct PlayOptions {
-    std::optional<std::int32_t> from; ///< ms; the document's start when absent
-    std::optional<std::int32_t> to;   ///< ms; the document's end when absent
-    std::optional<std::int32_t> step; ///< ms, 1 or more; the tool's choice when absent
+    std::optional<WrittenTime> from; ///< the document's start when absent
+    std::optional<WrittenTime> to;   ///< without end when absent
+    Query query = Query::ALL;
     bool realtime = false;
+    bool json = false;
+    Detail detail = Detail::ESSENTIAL;
 };
 
 /// xttml extract
 struct ExtractOptions {
-    std::int32_t offset = 0; ///< ms added to every time
-    std::string folder;      ///< made when it is missing
-    bool force = false;      ///< replaces files that are there
+    std::string folder; ///< made when it is missing
+    ExistingFile existing = ExistingFile::KEPT;
 };
 
 /// xttml save
 struct SaveOptions {
     std::string file; ///< "-" is standard output
-    std::string encoding = "UTF-8";
-    bool pretty = false;
-    bool bigEndian = false;     ///< besides what the encoding's name says
-    bool byteOrderMark = false; ///< besides what the encoding's name says
+    DocumentForm form;
+    ExistingFile existing = ExistingFile::KEPT;
 };
 
 /// A command with the options of all.
 struct Invocation {
-    std::string file;                ///< "-" is standard input
-    std::vector<std::string> images; ///< the files of the image block; none for text subtitles
+    std::vector<Input> inputs; ///< what the command runs on, one after the other
     bool verbose = false;
     std::variant<ListOptions, AtOptions, PlayOptions, ExtractOptions, SaveOptions> command;
 };

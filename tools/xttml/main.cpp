@@ -1,6 +1,8 @@
 // xttml: a player without a screen.
-#include "tools/xttml/commands.h"
-#include "tools/xttml/text_encoding.h"
+#include "tools/xttml/commands/commands.h"
+#include "tools/xttml/document/unusable_file.h"
+#include "tools/xttml/document/xml_library.h"
+#include "tools/xttml/output/diagnostics.h"
 
 #include <clocale>
 #include <csignal>
@@ -21,34 +23,38 @@ void UseCharacterSetOfEnvironment() {
         std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
-void Complain(const std::string& text) {
-    std::fputs((OnOneLine("xttml: " + text) + '\n').c_str(), stderr);
-}
-
 int ShowNotice(const Notice& notice) {
     if (notice.usageError) {
         std::fputs(notice.text.c_str(), stderr);
         return WRONG_USAGE;
     }
-    ToolOutput output(STDOUT_FILENO);
+    StandardOutput output;
     output.Write(notice.text);
     output.Flush();
     return DONE;
 }
 
+void RunOn(const Input& input, const Invocation& invocation, StandardOutput& output) {
+    const XmlLibrary xmlLibrary;
+    std::visit([&](const auto& options) { RunCommand(options, input, output); }, invocation.command);
+}
+
+/// Runs the command on every document that can be used.
 int Run(const Invocation& invocation) {
-    try {
-        LibraryOutput libraryOutput(invocation.verbose ? LibraryOutput::Lines::ON_STANDARD_ERROR
-                                                       : LibraryOutput::Lines::DROPPED);
-        Document document(invocation.file, ImageBlock(invocation.images), libraryOutput);
-        ToolOutput output(libraryOutput.ToolDescriptor());
-        std::visit([&](const auto& options) { RunCommand(options, document, output); }, invocation.command);
-        output.Flush();
-        return DONE;
-    } catch (const UnusableDocument& error) {
-        Complain(invocation.file + ": " + error.what());
-        return FAILED;
+    ShowLibraryLines(invocation.verbose);
+    StandardOutput output;
+    int result = DONE;
+    for (const Input& input : invocation.inputs) {
+        try {
+            RunOn(input, invocation, output);
+        } catch (const UnusableFile& error) {
+            output.Flush();
+            Complain(error.what());
+            result = FAILED;
+        }
     }
+    output.Flush();
+    return result;
 }
 
 int Main(int argc, const char* const* argv) {
@@ -67,8 +73,12 @@ int Main(int argc, const char* const* argv) {
 int main(int argc, char** argv) {
     try {
         return xttml::Main(argc, argv);
+    } catch (const xttml::ReaderGone&) {
+        return xttml::DONE;
     } catch (const std::exception& error) {
         xttml::Complain(error.what());
-        return xttml::FAILED;
+    } catch (...) { // the XML library's own for want of memory
+        xttml::Complain("out of memory");
     }
+    return xttml::FAILED;
 }

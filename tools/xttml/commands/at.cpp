@@ -1,0 +1,103 @@
+#include "tools/xttml/commands/commands.h"
+
+#include "tools/xttml/document/screen.h"
+#include "tools/xttml/output/item_text.h"
+#include "tools/xttml/output/json_output.h"
+#include "tools/xttml/text/text_encoding.h"
+
+namespace xttml {
+
+namespace {
+
+// Merging joins the items' content, which the library leaves to the player: it generates runs. An item that
+// has been merged into holds the text of the others already.
+void FillContent(const Screen& screen) {
+    for (DisplayItem* const item : screen.items) {
+        auto* const text = dynamic_cast<TextItem*>(item);
+        if (!text || text->fgCombined)
+            continue;
+        const std::u16string visible = VisibleText(*text);
+        text->pGetContentPointer()->assign(visible.begin(), visible.end());
+    }
+}
+
+/// What is on screen at a time.
+struct Answer {
+    MediaTime time;
+    Screen screen;
+    const TextItem* merged; ///< the first item with the text of all that share its times; null: not merged
+};
+
+Answer Ask(const AtOptions& options, MediaTime time, const DisplaySequence& sequence) {
+    Answer answer{time, LookAt(sequence, time, options.query), nullptr};
+    if (options.combine) {
+        FillContent(answer.screen);
+        answer.merged = sequence.Combine(time);
+    }
+    return answer;
+}
+
+std::u16string_view Content(const TextItem& item) {
+    return {item.vecContent.data(), item.vecContent.size()};
+}
+
+std::string ItemLine(const DisplayItem& item, const DisplaySequence& sequence) {
+    return SpanText(sequence.SpanOf(item)) + "  " + ScreenLine(item, sequence.Images()) + '\n';
+}
+
+std::string NothingOnScreen(const Screen& screen, const DisplaySequence& sequence) {
+    if (!screen.next)
+        return "  nothing on screen, nothing to come\n";
+    return "  nothing on screen, next is " + ItemLine(*screen.next, sequence);
+}
+
+std::string ToLines(const Answer& answer, const DisplaySequence& sequence) {
+    std::string lines = FormatTime(answer.time) + '\n';
+    if (answer.screen.items.empty())
+        return lines + NothingOnScreen(answer.screen, sequence);
+    if (answer.merged)
+        return lines + "  " + SpanText(sequence.SpanOf(*answer.merged)) + "  " +
+               TerminalText(Content(*answer.merged)) + '\n';
+    for (const DisplayItem* const item : answer.screen.items)
+        lines += "  " + ItemLine(*item, sequence);
+    return lines;
+}
+
+Json ToJson(const Answer& answer, const JsonItems& json) {
+    Json items = Json::array();
+    for (const DisplayItem* const item : answer.screen.items)
+        items.push_back(json.ToJson(*item));
+    return {{"time", answer.time},
+            {"items", std::move(items)},
+            {"merged", answer.merged ? Json(Utf8FromUtf16(Content(*answer.merged))) : Json()},
+            {"next", json.ToJson(answer.screen.next)}};
+}
+
+void WriteJson(StandardOutput& output, const AtOptions& options, const std::vector<MediaTime>& times,
+               const DisplaySequence& sequence, const ItemOrigins& origins) {
+    const JsonItems items(sequence, origins, options.detail);
+    const char* separator = "[\n";
+    for (const MediaTime time : times) {
+        output.Write(separator + ToText(ToJson(Ask(options, time, sequence), items)));
+        separator = ",\n";
+    }
+    output.Write("\n]\n");
+}
+
+} // namespace
+
+void RunCommand(const AtOptions& options, const Input& input, StandardOutput& output) {
+    Document document(input);
+    const DisplaySequence& sequence = document.Sequence();
+    std::vector<MediaTime> times;
+    for (const WrittenTime& time : options.times)
+        times.push_back(document.TimeOf(time));
+    if (options.json) {
+        WriteJson(output, options, times, sequence, document.Origins());
+        return;
+    }
+    for (const MediaTime time : times)
+        output.Write(ToLines(Ask(options, time, sequence), sequence));
+}
+
+} // namespace xttml

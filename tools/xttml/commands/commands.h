@@ -1,0 +1,28 @@
+// The commands. Each reads one document and writes what it finds. Each throws UnusableFile for a document
+// that cannot be used.
+#ifndef XTTML_TOOLS_XTTML_COMMANDS_COMMANDS_H
+#define XTTML_TOOLS_XTTML_COMMANDS_COMMANDS_H
+
+#include "tools/xttml/command_line.h"
+#include "tools/xttml/output/standard_output.h"
+
+namespace xttml {
+
+/// Shows every item.
+void RunCommand(const ListOptions& options, const Input& input, StandardOutput& output);
+
+/// Shows what is on screen at each time.
+void RunCommand(const AtOptions& options, const Input& input, StandardOutput& output);
+
+/// Shows what changes on screen.
+void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& output);
+
+/// Writes the PNG file of every image item.
+void RunCommand(const ExtractOptions& options, const Input& input, StandardOutput& output);
+
+/// Writes the document anew.
+void RunCommand(const SaveOptions& options, const Input& input, StandardOutput& output);
+
+} // namespace xttml
+
+#endif

@@ -1,0 +1,113 @@
+#include "tools/xttml/commands/commands.h"
+
+#include "tools/xttml/document/screen.h"
+#include "tools/xttml/output/item_text.h"
+#include "tools/xttml/output/json_output.h"
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <thread>
+
+namespace xttml {
+
+namespace {
+
+/// An item that comes on screen or goes.
+struct Change {
+    MediaTime time;
+    bool comes;
+    const DisplayItem& item;
+};
+
+using ChangeText = std::function<std::string(const Change&)>;
+
+std::string ToLine(const Change& change, const DisplaySequence& sequence) {
+    return FormatTime(change.time) + (change.comes ? "  +  " : "  -  ") +
+           ScreenLine(change.item, sequence.Images()) + '\n';
+}
+
+std::string ToJsonLine(const Change& change, const JsonItems& items) {
+    return ToText({{"time", change.time},
+                   {"change", change.comes ? "comes" : "goes"},
+                   {"item", items.ToJson(change.item)}}) +
+           '\n';
+}
+
+/// Writes what comes and goes, in real time when asked to.
+class ChangeWriter {
+public:
+    ChangeWriter(StandardOutput& output, ChangeText toText, std::optional<MediaTime> realtimeFrom)
+        : output_(output), toText_(std::move(toText)), realtimeFrom_(realtimeFrom),
+          start_(std::chrono::steady_clock::now()) {}
+
+    void Show(ItemList items, MediaTime time) {
+        if (items == shown_)
+            return;
+        anyChange_ = true;
+        WaitUntil(time);
+        WriteMissing(shown_, items, time, false);
+        WriteMissing(items, shown_, time, true);
+        shown_ = std::move(items);
+        if (realtimeFrom_)
+            output_.Flush();
+    }
+
+    bool AnyChange() const { return anyChange_; }
+
+private:
+    void WaitUntil(MediaTime time) const {
+        if (realtimeFrom_)
+            std::this_thread::sleep_until(start_ + std::chrono::milliseconds(time - *realtimeFrom_));
+    }
+
+    void WriteMissing(const ItemList& items, ItemList others, MediaTime time, bool comes) {
+        std::sort(others.begin(), others.end(), std::less<>());
+        for (const DisplayItem* const item : items)
+            if (!std::binary_search(others.begin(), others.end(), item, std::less<>()))
+                output_.Write(toText_({time, comes, *item}));
+    }
+
+    StandardOutput& output_;
+    ChangeText toText_;
+    std::optional<MediaTime> realtimeFrom_;
+    std::chrono::steady_clock::time_point start_;
+    ItemList shown_;
+    bool anyChange_ = false;
+};
+
+/// The first time at which something is on screen, or where the document's time line begins.
+MediaTime StartOf(const DisplaySequence& sequence, MediaTime origin) {
+    return sequence.OnScreen(origin).empty() ? sequence.NextChange(origin).value_or(origin) : origin;
+}
+
+void Play(const DisplaySequence& sequence, Query query, MediaTime from, std::optional<MediaTime> to,
+          ChangeWriter& writer) {
+    for (std::optional<MediaTime> time = from; time && time <= to.value_or(*time);
+         time = sequence.NextChange(*time))
+        writer.Show(LookAt(sequence, *time, query).items, *time);
+}
+
+std::optional<MediaTime> TimeOf(const std::optional<WrittenTime>& time, Document& document) {
+    return time ? std::optional(document.TimeOf(*time)) : std::nullopt;
+}
+
+} // namespace
+
+void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& output) {
+    Document document(input);
+    const DisplaySequence& sequence = document.Sequence();
+    const MediaTime from = TimeOf(options.from, document).value_or(StartOf(sequence, input.offset));
+    const std::optional<MediaTime> to = TimeOf(options.to, document);
+    const ItemOrigins origins = options.json ? document.Origins() : ItemOrigins();
+    const JsonItems items(sequence, origins, options.detail);
+    const ChangeText toText = [&](const Change& change) {
+        return options.json ? ToJsonLine(change, items) : ToLine(change, sequence);
+    };
+    ChangeWriter writer(output, toText, options.realtime ? std::optional(from) : std::nullopt);
+    Play(sequence, options.query, from, to, writer);
+    if (!writer.AnyChange() && !options.json)
+        output.Write("nothing comes on screen\n");
+}
+
+} // namespace xttml

@@ -1,0 +1,47 @@
+// A document with all that is asked of it.
+#ifndef XTTML_TOOLS_XTTML_DOCUMENT_DOCUMENT_H
+#define XTTML_TOOLS_XTTML_DOCUMENT_DOCUMENT_H
+
+#include "tools/xttml/document/display_sequence.h"
+#include "tools/xttml/document/document_model.h"
+#include "tools/xttml/document/item_origins.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace xttml {
+
+/// A document as the user names it.
+struct Input {
+    std::string file;                ///< "-" is standard input
+    std::vector<std::string> images; ///< the files of the image block; none for text subtitles
+    MediaTime offset = 0;            ///< ms added to every time
+    bool isTrusted = false;          ///< may name other documents and be of any size
+};
+
+/// A document, its items, and, when something asks for them, its elements. The XML library must be
+/// initialised as long as it lives.
+class Document {
+public:
+    /// Throws UnusableFile.
+    explicit Document(const Input& input);
+
+    const DisplaySequence& Sequence() const { return sequence_; }
+    /// Where the items come from.
+    ItemOrigins Origins() { return {Model(), sequence_}; }
+    /// A time as the user writes it. Throws UnusableFile for a frame that the document's rate does not have.
+    MediaTime TimeOf(const WrittenTime& time);
+
+private:
+    const DocumentModel& Model();
+
+    Source source_;
+    ImageBlock images_;
+    DisplaySequence sequence_;
+    std::unique_ptr<DocumentModel> model_;
+};
+
+} // namespace xttml
+
+#endif

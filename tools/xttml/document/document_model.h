@@ -1,0 +1,32 @@
+// The document itself: elements and attributes, read and written.
+#ifndef XTTML_TOOLS_XTTML_DOCUMENT_DOCUMENT_MODEL_H
+#define XTTML_TOOLS_XTTML_DOCUMENT_DOCUMENT_MODEL_H
+
+#include "tools/xttml/document/source.h"
+
+#include <cstdint>
+#include <xttml/binding/ttaf1_dfxp.h>
+
+namespace xttml {
+
+/// A parsed document; the XML library must be initialised as long as it lives.
+class DocumentModel {
+public:
+    /// Throws UnusableFile for what is no well-formed document with a tt root element.
+    explicit DocumentModel(const Source& source);
+    ~DocumentModel() { root_.DestroyDocument(); }
+    DocumentModel(const DocumentModel&) = delete;
+    DocumentModel& operator=(const DocumentModel&) = delete;
+
+    const ttaf1_dfxp::tt::Cttaf1_dfxp& Root() const { return root_; }
+    /// Frames a second as the library counts them (TTML 1.0, 6.2.4): ttp:frameRate, 30 without it; 0 for what
+    /// is no such number.
+    std::int32_t FrameRate() const;
+
+private:
+    ttaf1_dfxp::tt::Cttaf1_dfxp root_;
+};
+
+} // namespace xttml
+
+#endif

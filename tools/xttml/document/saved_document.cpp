@@ -1,0 +1,142 @@
+#include "tools/xttml/document/saved_document.h"
+
+#include "tools/xttml/document/unusable_file.h"
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+#include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/dom/DOMNamedNodeMap.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/TransService.hpp>
+#include <xttml/xmltree/tree_operations.h>
+
+using xercesc::DOMNode;
+
+namespace xttml {
+
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+using Text = std::basic_string<XMLCh>;
+
+constexpr std::size_t deepestElement = 10000; // the XML library writes nested elements by recursion
+
+bool IsKnown(const std::string& encoding) {
+    constexpr XMLSize_t anySize = 1024;
+    xercesc::XMLTransService::Codes status{};
+    const std::unique_ptr<xercesc::XMLTranscoder> transcoder(
+        xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor(
+            Text(encoding.begin(), encoding.end()).c_str(), status, anySize,
+            xercesc::XMLPlatformUtils::fgMemoryManager));
+    return transcoder != nullptr;
+}
+
+/// Walks a tree in document order, without recursion.
+class TreeWalk {
+public:
+    explicit TreeWalk(const DOMNode* root) : root_(root), node_(root) {}
+
+    const DOMNode* Node() const { return node_; }
+    std::size_t Depth() const { return depth_; }
+    void Next() {
+        if (const DOMNode* const child = node_->getFirstChild()) {
+            node_ = child;
+            ++depth_;
+            return;
+        }
+        while (node_ != root_ && !node_->getNextSibling()) {
+            node_ = node_->getParentNode();
+            --depth_;
+        }
+        node_ = node_ == root_ ? nullptr : node_->getNextSibling();
+    }
+
+private:
+    const DOMNode* root_;
+    const DOMNode* node_;
+    std::size_t depth_ = 0;
+};
+
+void AppendWords(const XMLCh* text, Text& target) {
+    constexpr std::basic_string_view<XMLCh> whiteSpace = u" \t\n\r";
+    for (; *text; ++text)
+        if (whiteSpace.find(*text) == whiteSpace.npos)
+            target += *text;
+}
+
+/// The values of an element's attributes, whatever their order; the declarations of namespaces are not among
+/// them.
+void AppendAttributes(const DOMNode& element, Text& target) {
+    constexpr std::basic_string_view<XMLCh> declaration = u"xmlns";
+    const xercesc::DOMNamedNodeMap& attributes = *element.getAttributes();
+    std::vector<std::basic_string_view<XMLCh>> values;
+    for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
+        const std::basic_string_view<XMLCh> name = attributes.item(i)->getNodeName();
+        if (name.substr(0, declaration.size()) != declaration)
+            values.emplace_back(attributes.item(i)->getNodeValue());
+    }
+    std::sort(values.begin(), values.end());
+    for (const auto& value : values)
+        AppendWords(value.data(), target);
+}
+
+/// All that a document says, without white space, which indenting adds. Throws UnusableFile.
+Text WordsOf(const DocumentModel& model, const std::string& file) {
+    Text words;
+    for (TreeWalk walk(model.Root().GetNode()); walk.Node(); walk.Next()) {
+        const DOMNode& node = *walk.Node();
+        if (walk.Depth() > deepestElement)
+            throw UnusableFile(file, "nests elements too deep to be saved");
+        if (node.getNodeType() == DOMNode::ELEMENT_NODE)
+            AppendAttributes(node, words);
+        if (node.getNodeType() == DOMNode::TEXT_NODE || node.getNodeType() == DOMNode::CDATA_SECTION_NODE)
+            AppendWords(node.getNodeValue(), words);
+    }
+    return words;
+}
+
+// What a document type declaration names is not there for bytes in memory.
+bool CanBeReadBack(const DocumentModel& model) {
+    return !static_cast<const xercesc::DOMDocument*>(model.Root().GetNode())->getDoctype();
+}
+
+bool HoldsWords(const Bytes& bytes, const Text& words) {
+    try {
+        const DocumentModel readBack(Source::Of("", std::string(bytes.begin(), bytes.end())));
+        return WordsOf(readBack, "") == words;
+    } catch (const UnusableFile&) {
+        return false;
+    }
+}
+
+Bytes Write(const DocumentModel& model, const DocumentForm& form) {
+    const std::string name = XercesTreeOperations::Uppercase(form.encoding);
+    return model.Root().SaveToBinary(form.pretty, form.encoding, form.bigEndian || name == "UTF-16BE",
+                                     form.byteOrderMark || name == "UTF-16");
+}
+
+} // namespace
+
+bool CanBeBigEndian(const std::string& encoding) {
+    const std::string name = XercesTreeOperations::Uppercase(encoding);
+    const bool isLittleEndian = name.size() > 2 && name.compare(name.size() - 2, 2, "LE") == 0;
+    return XercesTreeOperations::GetUnicodeSizeFromEncodingName(name) == 2 && !isLittleEndian;
+}
+
+Bytes Serialise(const DocumentModel& model, const DocumentForm& form, const std::string& file) {
+    if (!IsKnown(form.encoding))
+        throw UnusableFile(file, "the encoding '" + form.encoding + "' is not known");
+    const Text words = WordsOf(model, file);
+    Bytes bytes;
+    try {
+        bytes = Write(model, form);
+    } catch (const tessera::DataTargetUnavailableException&) {
+        throw UnusableFile(file, "cannot be written in the encoding '" + form.encoding + "'");
+    }
+    if (CanBeReadBack(model) && !HoldsWords(bytes, words))
+        throw UnusableFile(file, "loses text in the encoding '" + form.encoding + "'");
+    return bytes;
+}
+
+} // namespace xttml

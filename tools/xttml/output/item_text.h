@@ -1,0 +1,39 @@
+// The text of display items, for people and for merging.
+#ifndef XTTML_TOOLS_XTTML_OUTPUT_ITEM_TEXT_H
+#define XTTML_TOOLS_XTTML_OUTPUT_ITEM_TEXT_H
+
+#include "tools/xttml/document/display_sequence.h"
+
+#include <string>
+#include <vector>
+
+namespace xttml {
+
+/// The styled runs of an item in document order, owned by it; empty for an item that is no text.
+const std::vector<Sentence*>& Runs(const DisplayItem& item);
+
+/// The styling that a run is shown with: its own, else the item's.
+const StylingAttrib& StylingOf(const Sentence& run, const DisplayItem& item);
+
+/// The text of all runs, a line break as U+000A.
+std::u16string WholeText(const DisplayItem& item);
+
+/// The text of the runs that are not hidden, a line break as U+000A; empty when all are hidden.
+std::u16string VisibleText(const DisplayItem& item);
+
+/// A text as one line for a terminal.
+std::string TerminalText(std::u16string_view text);
+
+/// Where an area is: "WIDTHxHEIGHT+LEFT+TOP", in px.
+std::string BoxText(const StylingAttrib& styling);
+
+/// "00:00:01.000 to 00:00:02.000"
+std::string SpanText(const TimeSpan& span);
+
+/// What a viewer sees of an item as one line for a terminal, marked when its display is forced or nothing
+/// of it is visible.
+std::string ScreenLine(const DisplayItem& item, const ImageBlock& images);
+
+} // namespace xttml
+
+#endif

@@ -1,0 +1,18 @@
+// The values of the styling record in the words of TTML.
+#ifndef XTTML_TOOLS_XTTML_OUTPUT_STYLING_WORDS_H
+#define XTTML_TOOLS_XTTML_OUTPUT_STYLING_WORDS_H
+
+#include <xttml/style/styling_attrib.h>
+
+namespace xttml {
+
+const char* DisplayAlignWord(const StylingAttrib& styling);
+const char* TextAlignWord(const StylingAttrib& styling);
+const char* TextDecorationWord(const StylingAttrib& styling);
+const char* FontStyleWord(const StylingAttrib& styling);
+const char* FontWeightWord(const StylingAttrib& styling);
+const char* VisibilityWord(const StylingAttrib& styling);
+
+} // namespace xttml
+
+#endif

@@ -1,0 +1,108 @@
+#include "tools/xttml/text/text_encoding.h"
+
+#include <algorithm>
+
+namespace xttml {
+
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+constexpr char32_t returnSymbol = 0x23CE;
+constexpr char32_t controlPictures = 0x2400;
+constexpr char32_t pictureOfDelete = 0x2421;
+
+bool IsHighSurrogate(char16_t unit) {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool IsLowSurrogate(char16_t unit) {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+void AppendCodePoint(std::string& target, char32_t codePoint) {
+    const auto append = [&target](char32_t byte) { target.push_back(static_cast<char>(byte)); };
+    const auto appendTail = [&append, codePoint](int shift) {
+        append(0x80U | ((codePoint >> shift) & 0x3FU));
+    };
+    if (codePoint < 0x80) {
+        append(codePoint);
+    } else if (codePoint < 0x800) {
+        append(0xC0U | (codePoint >> 6));
+        appendTail(0);
+    } else if (codePoint < 0x10000) {
+        append(0xE0U | (codePoint >> 12));
+        appendTail(6);
+        appendTail(0);
+    } else {
+        append(0xF0U | (codePoint >> 18));
+        appendTail(12);
+        appendTail(6);
+        appendTail(0);
+    }
+}
+
+/// The code point at a position, which moves to the next one.
+char32_t TakeCodePoint(std::u16string_view text, std::size_t& position) {
+    const char16_t unit = text[position++];
+    if (IsHighSurrogate(unit) && position < text.size() && IsLowSurrogate(text[position])) {
+        const auto high = static_cast<char32_t>(unit - 0xD800);
+        const auto low = static_cast<char32_t>(text[position++] - 0xDC00);
+        return 0x10000 + (high << 10) + low;
+    }
+    return IsHighSurrogate(unit) || IsLowSurrogate(unit) ? replacementCharacter : unit;
+}
+
+char32_t PictureOf(char32_t control) {
+    if (control == '\n')
+        return returnSymbol;
+    if (control == 0x7F)
+        return pictureOfDelete;
+    return control < 0x20 ? controlPictures + control : replacementCharacter;
+}
+
+} // namespace
+
+std::string Utf8FromUtf16(std::u16string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();)
+        AppendCodePoint(result, TakeCodePoint(text, position));
+    return result;
+}
+
+std::string Utf8FromLatin1(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const char character : text)
+        AppendCodePoint(result, static_cast<unsigned char>(character));
+    return result;
+}
+
+char32_t ControlAt(std::string_view text, std::size_t position) {
+    const auto byte = static_cast<unsigned char>(text[position]);
+    if (byte < 0x20 || byte == 0x7F)
+        return byte;
+    const auto next = position + 1 < text.size() ? static_cast<unsigned char>(text[position + 1]) : 0U;
+    return byte == 0xC2 && next >= 0x80 && next <= 0x9F ? next : noControl;
+}
+
+std::string OnOneLine(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char32_t control = ControlAt(text, i);
+        if (control == noControl) {
+            result.push_back(text[i]);
+            continue;
+        }
+        AppendCodePoint(result, PictureOf(control));
+        i += BytesOfControl(control) - 1;
+    }
+    return result;
+}
+
+std::size_t CodePoints(std::string_view text) {
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+} // namespace xttml
