@@ -109,7 +109,8 @@ XTTML_API const char *x_ttml_get_version(int *untrusted_by_default);
 
 /** Whether the documents that this parser loads from now on are untrusted: a document type declaration is
  * refused before anything that it names is read, a path is a path of the local file system and nothing else,
- * and size, depth, attributes, values and names are bounded. A new parser has the library's default.
+ * and size, depth, nodes, attributes, values, names and namespaces are bounded: xttml_items(3) lists the
+ * limits. A new parser has the library's default.
  * @param untrusted 0: trusted
  * A null handle does nothing. */
 XTTML_API void x_ttml_set_untrusted(x_ttml_handle handle, int untrusted);

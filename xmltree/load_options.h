@@ -29,8 +29,8 @@ struct XTTML_API LoadOptions {
     static const bool UNTRUSTED_BY_DEFAULT;
 
     /// An untrusted document is refused for a document type declaration, before anything that it names is
-    /// read, and for more bytes, levels, attributes, characters of a value or names than any TTML document
-    /// needs; its path is one of the local file system.
+    /// read, and for more bytes, levels, nodes, names and the like than any TTML document needs; its path is
+    /// one of the local file system.
     bool isUntrusted = UNTRUSTED_BY_DEFAULT;
     /// Where a load that fails says why, besides its exception; null: nowhere. Otherwise left alone.
     LoadFault* fault = nullptr;

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr std::size_t MAX_BYTES = XTTML_UNTRUSTED_MAX_BYTES;
-constexpr std::size_t MAX_DEPTH = XTTML_UNTRUSTED_MAX_DEPTH;
 constexpr char NO_DOCUMENT_TYPE[] =
     "Xerces SAX error while loading: A document type declaration is not allowed.";
 
@@ -78,53 +77,119 @@ TEST(UntrustedXml, RefusesDocumentTypesBeforeItReadsWhatTheyName) {
     EXPECT_EQ(TextOrRefusal("<tt>&lt;&#65;&amp;</tt>", UNTRUSTED), "<A&");
 }
 
+std::string Letters(std::size_t length) {
+    return std::string(length, 'v');
+}
+
+/// A tt with so many pieces, the number of the piece in each.
+std::string Numbered(const std::string& before, const std::string& after, std::size_t count) {
+    std::string content = "<tt>";
+    for (std::size_t i = 0; i < count; ++i)
+        content += before + std::to_string(i) + after;
+    return content + "</tt>";
+}
+
+std::string WithAttributes(std::size_t count) {
+    std::string tag = "<tt";
+    for (std::size_t i = 0; i < count; ++i)
+        tag += " a" + std::to_string(i) + "=''";
+    return tag + "/>";
+}
+
+/// A tt that makes so many declarations, of one namespace, at three levels.
+std::string Declaring(std::size_t count) {
+    std::string tags[3] = {"<tt", "<a", "<a"};
+    for (std::size_t i = 0; i < count; ++i)
+        tags[i % 3] += i == 0 ? " xmlns='u'" : " xmlns:p" + std::to_string(i / 3) + "='u'";
+    return tags[0] + ">" + tags[1] + ">" + tags[2] + "/></a></tt>";
+}
+
+std::string WithColor(const char* namespaceName, std::size_t length) {
+    return std::string("<tt xmlns:s='") + namespaceName + "' s:color='" + Letters(length) + "'/>";
+}
+
 TEST(UntrustedXml, BoundsWhatADocumentHas) {
     const XercesSession session;
-    const auto attributes = [](std::size_t count) {
-        std::string tag = "<tt";
-        for (std::size_t i = 0; i < count; ++i)
-            tag += " a" + std::to_string(i) + "=''";
-        return tag + "/>";
+    constexpr std::size_t depth = XTTML_UNTRUSTED_MAX_DEPTH;
+    constexpr std::size_t nodes = XTTML_UNTRUSTED_MAX_NODES;
+    constexpr std::size_t attributes = XTTML_UNTRUSTED_MAX_ATTRIBUTES;
+    constexpr std::size_t value = XTTML_UNTRUSTED_MAX_VALUE;
+    constexpr std::size_t stylingValue = XTTML_UNTRUSTED_MAX_STYLING_VALUE;
+    constexpr std::size_t names = XTTML_UNTRUSTED_MAX_NAMES;
+    constexpr std::size_t name = XTTML_UNTRUSTED_MAX_NAME;
+    constexpr std::size_t namespaces = XTTML_UNTRUSTED_MAX_NAMESPACES;
+    constexpr std::size_t namespaceLength = XTTML_UNTRUSTED_MAX_NAMESPACE;
+    constexpr std::size_t declarations = XTTML_UNTRUSTED_MAX_DECLARATIONS;
+    constexpr char styling[] = "http://www.w3.org/ns/ttml#styling";
+    const auto content = [](const std::string& piece, std::size_t count) {
+        return "<tt>" + Repeated(piece, count) + "</tt>";
     };
-    const auto value = [](std::size_t length) { return "<tt id='" + std::string(length, 'v') + "'/>"; };
-    const auto names = [](const char* before, const char* after, std::size_t count) {
-        std::string content = "<tt>";
-        for (std::size_t i = 0; i < count; ++i)
-            content += before + std::to_string(i) + after;
-        return content + "</tt>";
+    const auto tag = [](std::size_t length) { return "<" + Letters(length) + "/>"; };
+    const auto valued = [](std::size_t length) { return "<tt id='" + Letters(length) + "'/>"; };
+    const auto message = [](const char* before, std::size_t limit, const char* after) {
+        return before + std::to_string(limit) + after;
     };
-    const std::string tooManyNames = "The document has more than 4096 different names.";
+    const std::string tooDeep = message("Elements are nested more than ", depth, " deep.");
+    const std::string tooManyNodes = message("The document has more than ", nodes, " nodes.");
+    const std::string tooManyNames = message("The document has more than ", names, " different names.");
+    const std::string longName = message("A name is longer than ", name, " characters.");
+    const std::string longValue = message("An attribute value is longer than ", value, " characters.");
+    const std::string tooManyNamespaces = message("The document has more than ", namespaces, " namespaces.");
+    const std::string longNamespace = message("A namespace is longer than ", namespaceLength, " characters.");
+    const std::string tooManyDeclarations =
+        message("More than ", declarations, " namespace declarations are in scope.");
     const struct {
         const char* what;
         std::string accepted;
         std::string refused;
         std::string message;
     } cases[] = {
-        {"depth", NestedTo(MAX_DEPTH), NestedTo(MAX_DEPTH + 1),
-         "Elements are nested more than " + std::to_string(MAX_DEPTH) + " deep."},
-        {"depth of empty elements", "<tt>" + Repeated("<br/>", 2 * MAX_DEPTH) + "</tt>", NestedTo(20000),
-         "Elements are nested more than " + std::to_string(MAX_DEPTH) + " deep."},
-        {"attributes", attributes(256), attributes(257), "An element has more than 256 attributes."},
-        {"declarations", names("<e xmlns:p", "='u'/>", 4000), names("<e xmlns:p", "='u'/>", 5000),
+        {"depth", NestedTo(depth), NestedTo(depth + 1), tooDeep},
+        {"depth of empty elements", content("<br/>", 2 * depth), NestedTo(20000), tooDeep},
+        {"elements", content("<b/>", nodes - 1), content("<b/>", nodes), tooManyNodes},
+        {"attributes of elements", content("<b a='' b=''/>", (nodes - 1) / 3),
+         content("<b a='' b=''/>", nodes / 3 + 1), tooManyNodes},
+        {"comments", content("<!---->", nodes - 1), content("<!---->", nodes), tooManyNodes},
+        {"instructions", content("<?a?>", nodes - 1), content("<?a?>", nodes), tooManyNodes},
+        {"attributes", WithAttributes(attributes), WithAttributes(attributes + 1),
+         message("An element has more than ", attributes, " attributes.")},
+        {"values", valued(value), valued(value + 1), longValue},
+        {"a huge value", valued(1000), valued(2000000), longValue},
+        {"styling values", WithColor(styling, stylingValue), WithColor(styling, stylingValue + 1),
+         message("A styling value is longer than ", stylingValue, " characters.")},
+        {"values of another namespace", WithColor("urn:other", value), WithColor("urn:other", value + 1),
+         longValue},
+        {"element names", Numbered("<e", "/>", names - 1), Numbered("<e", "/>", names), tooManyNames},
+        {"attribute names", Numbered("<e a", "=''/>", names - 2), Numbered("<e a", "=''/>", names - 1),
          tooManyNames},
-        {"values", value(1024), value(1025), "An attribute value is longer than 1024 characters."},
-        {"a huge value", value(1000), value(2000000), "An attribute value is longer than 1024 characters."},
-        {"element names", names("<e", "/>", 4000), names("<e", "/>", 5000), tooManyNames},
-        {"attribute names", names("<e a", "=''/>", 4000), names("<e a", "=''/>", 5000), tooManyNames},
-        {"namespaces", names("<e xmlns='urn:", "'/>", 4000), names("<e xmlns='urn:", "'/>", 5000),
-         tooManyNames},
+        {"an element's name", tag(name), tag(name + 1), longName},
+        {"an attribute's name", "<tt " + Letters(name) + "=''/>", "<tt " + Letters(name + 1) + "=''/>",
+         longName},
+        {"namespaces", Numbered("<e xmlns='urn:", "'/>", namespaces),
+         Numbered("<e xmlns='urn:", "'/>", namespaces + 1), tooManyNamespaces},
+        {"a namespace", "<tt xmlns='" + Letters(namespaceLength) + "'/>",
+         "<tt><e xmlns:p='" + Letters(namespaceLength + 1) + "'/></tt>", longNamespace},
+        {"declarations", Declaring(declarations), Declaring(declarations + 1), tooManyDeclarations},
+        {"declarations one after the other", content("<e xmlns='u' xmlns:p='u'/>", declarations),
+         Declaring(declarations + 1), tooManyDeclarations},
     };
     for (const auto& test : cases) {
         EXPECT_EQ(TextOrRefusal(test.accepted, UNTRUSTED), "") << test.what;
         EXPECT_EQ(TextOrRefusal(test.refused, UNTRUSTED), "Xerces SAX error while loading: " + test.message)
             << test.what;
     }
+    EXPECT_EQ(TextOrRefusal(content("&#65;", nodes), UNTRUSTED).size(), nodes) << "one text";
 }
 
 TEST(UntrustedXml, BoundsTheSizeOfADocument) {
     const XercesSession session;
     EXPECT_EQ(TextOrRefusal(OfSize(MAX_BYTES), UNTRUSTED).size(), OfSize(MAX_BYTES).size() - 9);
-    EXPECT_EQ(TextOrRefusal(OfSize(MAX_BYTES + 1), UNTRUSTED), TooLarge());
+    LoadFault fault;
+    for (const std::string& refused : {OfSize(MAX_BYTES + 1), OfSize(1000) + std::string(MAX_BYTES, ' ')}) {
+        EXPECT_EQ(TextOrRefusal(refused, {true, &fault}), TooLarge());
+        EXPECT_EQ(fault.kind, LoadFault::REFUSED);
+        EXPECT_EQ(fault.line, 0U);
+    }
     const TemporaryFile largest(OfSize(MAX_BYTES));
     const TemporaryFile tooLarge(OfSize(MAX_BYTES + 1));
     std::string output;
