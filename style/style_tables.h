@@ -11,9 +11,9 @@
 
 #include <cstddef>
 #include <deque>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 /// What both tables share.
 class StylingTable {
@@ -34,7 +34,8 @@ private:
     StylingAttribGroup* prFind(const std::string& strId) const;
 
     std::deque<StylingAttribGroup> entries_;
-    std::unordered_map<std::string_view, StylingAttribGroup*> firstById_; // keys stand in the entries
+    // Ordered: a document could choose identifiers with one hash. The keys stand in the entries.
+    std::map<std::string_view, StylingAttribGroup*> firstById_;
 };
 
 class StyleTable : public StylingTable {
