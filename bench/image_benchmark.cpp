@@ -1,16 +1,16 @@
 // Cutting a block of image data into PNG files, over a search of the same bytes for the first byte of their
 // signature.
 #include "bench/bare_parse.h"
-#include "bench/ratio_reporter.h"
+#include "bench/comparison.h"
 #include "parser/ttml_parser.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <random>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t blockSize = std::size_t{64} << 20;
 constexpr std::size_t fileCount = 30;
 constexpr double cutLimit = 1.5;
-constexpr double generationLimit = 2;
+constexpr double generationLimit = 1;
 constexpr char signature[] = "\x89"
                              "PNG";
 constexpr std::size_t signatureSize = sizeof signature - 1;
@@ -39,28 +39,27 @@ std::vector<char> Block(Filling filling) {
 }
 
 /// One pass over a block that stops at every first byte of a signature.
-void SearchFirstBytes(benchmark::State& state, Filling filling) {
-    const std::vector<char> block = Block(filling);
+void SearchFirstBytes(const std::vector<char>& block) {
     const char* const end = block.data() + block.size();
-    for (auto _ : state) {
-        const char* position = block.data();
-        while (position < end) {
-            const auto left = static_cast<std::size_t>(end - position);
-            const void* const found = std::memchr(position, signature[0], left);
-            position = found ? static_cast<const char*>(found) + 1 : end;
-            benchmark::DoNotOptimize(position);
-        }
+    const char* position = block.data();
+    while (position < end) {
+        const void* const found =
+            std::memchr(position, signature[0], static_cast<std::size_t>(end - position));
+        position = found ? static_cast<const char*>(found) + 1 : end;
+        benchmark::DoNotOptimize(position);
     }
 }
 
-void CutBlock(benchmark::State& state, Filling filling) {
-    const std::vector<char> block = Block(filling);
-    TtmlParser parser;
-    parser.vSetDocumentBuffer(block.data(), static_cast<int>(block.size()));
-    for (auto _ : state)
-        parser.vGeneratePNGBufferInfo();
-    if (parser.aGetImageTable()[fileCount - 1].iSize == 0)
-        std::abort();
+Turns CuttingOverSearching(Filling filling) {
+    const auto block = std::make_shared<std::vector<char>>(Block(filling));
+    const auto parser = std::make_shared<TtmlParser>();
+    parser->vSetDocumentBuffer(block->data(), static_cast<int>(block->size()));
+    return {[block] { SearchFirstBytes(*block); },
+            [parser] {
+                parser->vGeneratePNGBufferInfo();
+                if (parser->aGetImageTable()[fileCount - 1].iSize == 0)
+                    std::abort();
+            }};
 }
 
 std::string ImageDocument() {
@@ -76,46 +75,34 @@ std::string ImageDocument() {
     return text + "</body></tt>";
 }
 
-void BareParseOfImages(benchmark::State& state) {
-    const std::string text = ImageDocument();
-    for (auto _ : state)
-        BareParse(text);
+void LoadAndGenerateImages(const std::string& text, std::string& block) {
+    TtmlParser parser;
+    parser.vSetDocumentBuffer(block.data(), static_cast<int>(block.size()));
+    if (!parser.fgLoadDocument(text.data(), static_cast<unsigned int>(text.size())))
+        std::abort();
+    parser.vGenerateImageDisplaySequence(0);
+    parser.vCloseDocument();
 }
 
-void LoadAndGenerateImages(benchmark::State& state) {
-    const std::string text = ImageDocument();
+Turns GeneratingOverBareParse() {
     std::string block;
     for (std::size_t i = 0; i < fileCount; ++i)
         block += std::string(signature) + std::string(2000, 'x');
-    for (auto _ : state) {
-        TtmlParser parser;
-        parser.vSetDocumentBuffer(block.data(), static_cast<int>(block.size()));
-        if (!parser.fgLoadDocument(text.data(), static_cast<unsigned int>(text.size())))
-            std::abort();
-        parser.vGenerateImageDisplaySequence(0);
-        parser.vCloseDocument();
-    }
+    return {[text = ImageDocument()] { BareParse(text); },
+            [text = ImageDocument(), block]() mutable { LoadAndGenerateImages(text, block); }};
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     TtmlParser::vXercesInit();
-    const std::pair<const char*, Filling> fillings[] = {{"Compressed", Filling::COMPRESSED},
-                                                        {"Plain", Filling::PLAIN}};
-    std::vector<Ratio> ratios;
-    for (const auto& [name, filling] : fillings) {
-        const std::string cut = std::string("CutBlock/") + name;
-        const std::string search = std::string("SearchFirstBytes/") + name;
-        benchmark::RegisterBenchmark(cut.c_str(), CutBlock, filling)->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark(search.c_str(), SearchFirstBytes, filling)
-            ->Unit(benchmark::kMillisecond);
-        ratios.push_back({cut, search, cutLimit});
-    }
-    benchmark::RegisterBenchmark("BareParseOfImages", BareParseOfImages);
-    benchmark::RegisterBenchmark("LoadAndGenerateImages", LoadAndGenerateImages);
-    ratios.push_back({"LoadAndGenerateImages", "BareParseOfImages", generationLimit});
-    RunBenchmarks(argc, argv, ratios);
+    const int status = RunComparisons(
+        argc, argv,
+        {{"cutting compressed images : a search for first bytes", cutLimit,
+          [] { return CuttingOverSearching(Filling::COMPRESSED); }},
+         {"cutting zeros : a search for first bytes", cutLimit,
+          [] { return CuttingOverSearching(Filling::PLAIN); }},
+         {"load and generate 30 images : bare parse", generationLimit, GeneratingOverBareParse}});
     TtmlParser::vXercesTerminate();
-    return EXIT_SUCCESS;
+    return status;
 }

@@ -1,15 +1,14 @@
 // A query by time, which must not grow with the sequence.
-#include "api/x_ttml.h"
-#include "bench/ratio_reporter.h"
-#include "parser/ttml_parser.h"
-#include "runtime/exceptions.h"
+#include "api/x_ttml_items.h"
+#include "bench/comparison.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
+#include <memory>
 #include <numeric>
-#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -19,6 +18,7 @@ namespace {
 constexpr int smallSize = 100;
 constexpr int largeSize = 50000;
 constexpr double growthLimit = 2;
+constexpr int queries = 4096; // a turn
 constexpr int spacing = 1000; // ms from begin to begin
 constexpr int shown = 800;    // ms on screen
 constexpr std::uint32_t lead = 5000;
@@ -49,12 +49,9 @@ public:
         if (x_ttml_load_subtitle_from_data(handle, text.data(), static_cast<uint32_t>(text.size())) !=
             X_TTML_OK)
             std::abort();
-        try {
-            x_ttml_generate_text_display_item_sequence(handle, 0);
-        } catch (const tessera::Exception&) {
-            if (order != Order::CUT_OFF)
-                throw;
-        }
+        const int expected = order == Order::CUT_OFF ? X_TTML_BAD_VALUE : X_TTML_OK;
+        if (x_ttml_try_generate_text(handle, 0) != expected)
+            std::abort();
         x_ttml_destory_doc(handle);
     }
     ~Player() { x_ttml_delete_parser(handle); }
@@ -98,20 +95,17 @@ std::vector<std::uint32_t> InPlay(int size) {
 }
 
 /// A question at a time; the answer is there to be looked at.
-using Ask = const void* (*)(x_ttml_handle handle, std::uint32_t time);
+using Ask = std::int64_t (*)(x_ttml_handle handle, std::uint32_t time);
 
-const void* AskForTheItem(x_ttml_handle handle, std::uint32_t time) {
-    return x_ttml_get_display_item_by_time(handle, time);
+std::int64_t AskForTheItem(x_ttml_handle handle, std::uint32_t time) {
+    return x_ttml_get_display_item_by_time(handle, time) != nullptr;
 }
-const void* AskForAllOnScreen(x_ttml_handle handle, std::uint32_t time) {
+std::int64_t AskForAllOnScreen(x_ttml_handle handle, std::uint32_t time) {
     DisplayItem* items[4] = {};
-    static_cast<const TtmlParser*>(handle)->uGetDisplayItemsOnScreen(items, 4, time);
-    return items[0];
+    return x_ttml_get_items_on_screen(handle, items, 4, static_cast<std::int32_t>(time));
 }
-const void* AskForTheNextChange(x_ttml_handle handle, std::uint32_t time) {
-    static std::optional<std::int32_t> change;
-    change = static_cast<const TtmlParser*>(handle)->rGetNextChange(static_cast<std::int32_t>(time));
-    return &change;
+std::int64_t AskForTheNextChange(x_ttml_handle handle, std::uint32_t time) {
+    return x_ttml_get_next_change(handle, static_cast<std::int32_t>(time));
 }
 
 struct Kind {
@@ -122,47 +116,45 @@ struct Kind {
 };
 
 constexpr Kind kinds[] = {
-    {"Sorted/InPlay", Order::SORTED, InPlay},
-    {"Sorted/OnScreen", Order::SORTED, OnScreen},
-    {"Sorted/InGaps", Order::SORTED, InGaps},
-    {"Sorted/BeforeTheFirst", Order::SORTED, BeforeTheFirst},
-    {"Sorted/AfterTheLast", Order::SORTED, AfterTheLast},
-    {"Shuffled/InPlay", Order::SHUFFLED, InPlay},
-    {"Shuffled/OnScreen", Order::SHUFFLED, OnScreen},
-    {"Shuffled/InGaps", Order::SHUFFLED, InGaps},
-    {"CutOff/OnScreen", Order::CUT_OFF, OnScreen},
-    {"All/Sorted/OnScreen", Order::SORTED, OnScreen, AskForAllOnScreen},
-    {"All/Sorted/InGaps", Order::SORTED, InGaps, AskForAllOnScreen},
-    {"All/Shuffled/OnScreen", Order::SHUFFLED, OnScreen, AskForAllOnScreen},
-    {"All/UnderALastingOne/OnScreen", Order::UNDER_A_LASTING_ONE, OnScreen, AskForAllOnScreen},
-    {"NextChange/Sorted/OnScreen", Order::SORTED, OnScreen, AskForTheNextChange},
-    {"NextChange/Shuffled/OnScreen", Order::SHUFFLED, OnScreen, AskForTheNextChange},
-    {"NextChange/UnderALastingOne/InGaps", Order::UNDER_A_LASTING_ONE, InGaps, AskForTheNextChange},
+    {"in play", Order::SORTED, InPlay},
+    {"on screen", Order::SORTED, OnScreen},
+    {"in gaps", Order::SORTED, InGaps},
+    {"before the first", Order::SORTED, BeforeTheFirst},
+    {"after the last", Order::SORTED, AfterTheLast},
+    {"shuffled, in play", Order::SHUFFLED, InPlay},
+    {"shuffled, on screen", Order::SHUFFLED, OnScreen},
+    {"shuffled, in gaps", Order::SHUFFLED, InGaps},
+    {"cut off, on screen", Order::CUT_OFF, OnScreen},
+    {"all on screen", Order::SORTED, OnScreen, AskForAllOnScreen},
+    {"all in gaps", Order::SORTED, InGaps, AskForAllOnScreen},
+    {"all on screen, shuffled", Order::SHUFFLED, OnScreen, AskForAllOnScreen},
+    {"all on screen, under a lasting one", Order::UNDER_A_LASTING_ONE, OnScreen, AskForAllOnScreen},
+    {"next change", Order::SORTED, OnScreen, AskForTheNextChange},
+    {"next change, shuffled", Order::SHUFFLED, OnScreen, AskForTheNextChange},
+    {"next change, under a lasting one", Order::UNDER_A_LASTING_ONE, InGaps, AskForTheNextChange},
 };
 
-void Measure(benchmark::State& state, const Kind& kind) {
-    const int size = static_cast<int>(state.range(0));
-    const Player player(size, kind.order);
-    const std::vector<std::uint32_t> times = kind.times(size);
-    std::size_t i = 0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(kind.ask(player.handle, times[i]));
+/// Asks for one time after the other.
+std::function<void()> Queries(const Kind& kind, int size) {
+    const auto player = std::make_shared<Player>(size, kind.order);
+    return [player, ask = kind.ask, times = kind.times(size), i = std::size_t{0}]() mutable {
+        benchmark::DoNotOptimize(ask(player->handle, times[i]));
         i = i + 1 < times.size() ? i + 1 : 0;
-    }
+    };
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     x_ttml_init_xerces();
-    std::vector<Ratio> ratios;
-    for (const Kind& kind : kinds) {
-        benchmark::RegisterBenchmark(kind.name, Measure, kind)->Arg(smallSize)->Arg(largeSize);
-        const std::string name = kind.name;
-        ratios.push_back(
-            {name + "/" + std::to_string(largeSize), name + "/" + std::to_string(smallSize), growthLimit});
-    }
-    RunBenchmarks(argc, argv, ratios);
+    std::vector<Comparison> comparisons;
+    for (const Kind& kind : kinds)
+        comparisons.push_back({std::string("a query, 50000 items : 100 items, ") + kind.name, growthLimit,
+                               [kind] {
+                                   return Turns{Queries(kind, smallSize), Queries(kind, largeSize)};
+                               },
+                               1, 0, queries});
+    const int status = RunComparisons(argc, argv, comparisons);
     x_ttml_uninit_xerces();
-    return EXIT_SUCCESS;
+    return status;
 }

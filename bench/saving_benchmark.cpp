@@ -1,5 +1,5 @@
 // Saving a document, over the XML library's own serialiser writing the same bytes.
-#include "bench/ratio_reporter.h"
+#include "bench/comparison.h"
 #include "bench/subtitle_document.h"
 #include "binding/ttaf1_dfxp.h"
 
@@ -11,6 +11,7 @@
 #include <xercesc/util/PlatformUtils.hpp>
 
 #include <cstdlib>
+#include <memory>
 #include <string>
 
 using ttaf1_dfxp::tt::Cttaf1_dfxp;
@@ -27,44 +28,47 @@ struct Encoding {
 
 constexpr Encoding encodings[] = {{"UTF-8", u"UTF-8"}, {"UTF-16LE", u"UTF-16LE"}, {"UTF-16BE", u"UTF-16BE"}};
 
-void Save(benchmark::State& state, const Encoding& encoding) {
-    Cttaf1_dfxp document = Cttaf1_dfxp::LoadFromString(SubtitleDocument(paragraphs));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(document.SaveToBinary(false, encoding.name));
-    document.DestroyDocument();
+/// A document that is released at the end.
+struct Document {
+    Document() = default;
+    ~Document() { root.DestroyDocument(); }
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+
+    Cttaf1_dfxp root = Cttaf1_dfxp::LoadFromString(SubtitleDocument(paragraphs));
+};
+
+void Serialise(const Document& document, const Encoding& encoding) {
+    xercesc::DOMImplementation* const implementation = xercesc::DOMImplementation::getImplementation();
+    xercesc::DOMLSSerializer* const serializer = implementation->createLSSerializer();
+    xercesc::DOMLSOutput* const output = implementation->createLSOutput();
+    xercesc::MemBufFormatTarget target;
+    output->setByteStream(&target);
+    output->setEncoding(reinterpret_cast<const XMLCh*>(encoding.wideName));
+    if (!serializer->write(document.root.GetNode(), output))
+        std::abort();
+    benchmark::DoNotOptimize(target.getRawBuffer());
+    output->release();
+    serializer->release();
 }
 
-void Serialise(benchmark::State& state, const Encoding& encoding) {
-    Cttaf1_dfxp document = Cttaf1_dfxp::LoadFromString(SubtitleDocument(paragraphs));
-    xercesc::DOMImplementation* const implementation = xercesc::DOMImplementation::getImplementation();
-    for (auto _ : state) {
-        xercesc::DOMLSSerializer* const serializer = implementation->createLSSerializer();
-        xercesc::DOMLSOutput* const output = implementation->createLSOutput();
-        xercesc::MemBufFormatTarget target;
-        output->setByteStream(&target);
-        output->setEncoding(reinterpret_cast<const XMLCh*>(encoding.wideName));
-        if (!serializer->write(document.GetNode(), output))
-            std::abort();
-        benchmark::DoNotOptimize(target.getRawBuffer());
-        output->release();
-        serializer->release();
-    }
-    document.DestroyDocument();
+Turns SavingOverSerialising(const Encoding& encoding) {
+    const auto document = std::make_shared<Document>();
+    return {[document, encoding] { Serialise(*document, encoding); },
+            [document, encoding] {
+                benchmark::DoNotOptimize(document->root.SaveToBinary(false, encoding.name));
+            }};
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     xercesc::XMLPlatformUtils::Initialize();
-    std::vector<Ratio> ratios;
-    for (const Encoding& encoding : encodings) {
-        const std::string save = std::string("Save/") + encoding.name;
-        const std::string serialise = std::string("Serialise/") + encoding.name;
-        benchmark::RegisterBenchmark(save.c_str(), Save, encoding)->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark(serialise.c_str(), Serialise, encoding)->Unit(benchmark::kMillisecond);
-        ratios.push_back({save, serialise, limit});
-    }
-    RunBenchmarks(argc, argv, ratios);
+    std::vector<Comparison> comparisons;
+    for (const Encoding& encoding : encodings)
+        comparisons.push_back({std::string("saving : the XML library's serialiser, ") + encoding.name, limit,
+                               [encoding] { return SavingOverSerialising(encoding); }});
+    const int status = RunComparisons(argc, argv, comparisons);
     xercesc::XMLPlatformUtils::Terminate();
-    return EXIT_SUCCESS;
+    return status;
 }

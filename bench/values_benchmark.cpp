@@ -1,5 +1,5 @@
 // Reading and printing values, over what else the machine has for it.
-#include "bench/ratio_reporter.h"
+#include "bench/comparison.h"
 #include "runtime/binary.h"
 #include "runtime/number.h"
 
@@ -8,8 +8,10 @@
 
 #include <charconv>
 #include <cstdlib>
+#include <functional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -30,31 +32,26 @@ const std::vector<unsigned char>& Bytes() {
     return bytes;
 }
 
-void GlibEncode(benchmark::State& state) {
-    for (auto _ : state)
-        g_free(g_base64_encode(Bytes().data(), Bytes().size()));
+void EncodeByGlib() {
+    g_free(g_base64_encode(Bytes().data(), Bytes().size()));
 }
 
-void GlibDecode(benchmark::State& state) {
+Turns PrintingOverGlib(std::string (*print)(const std::vector<unsigned char>&)) {
+    return {EncodeByGlib, [print] { benchmark::DoNotOptimize(print(Bytes())); }};
+}
+
+Turns ParsingBase64OverGlib() {
     const std::string text = tessera::PrintBase64(Bytes());
-    for (auto _ : state) {
-        gsize size = 0;
-        g_free(g_base64_decode(text.c_str(), &size));
-    }
+    return {[text] {
+                gsize size = 0;
+                g_free(g_base64_decode(text.c_str(), &size));
+            },
+            [text] { benchmark::DoNotOptimize(tessera::ParseBase64(text)); }};
 }
 
-template <std::string (*print)(const std::vector<unsigned char>&)>
-void Print(benchmark::State& state) {
-    for (auto _ : state)
-        benchmark::DoNotOptimize(print(Bytes()));
-}
-
-template <std::string (*print)(const std::vector<unsigned char>&),
-          std::vector<unsigned char> (*parse)(std::string_view)>
-void Parse(benchmark::State& state) {
-    const std::string text = print(Bytes());
-    for (auto _ : state)
-        benchmark::DoNotOptimize(parse(text));
+Turns ParsingHexOverGlib() {
+    return {EncodeByGlib,
+            [text = tessera::PrintHex(Bytes())] { benchmark::DoNotOptimize(tessera::ParseHex(text)); }};
 }
 
 enum class Digits { FEW, ALL };
@@ -77,12 +74,12 @@ std::string PrintShortest(double value) {
     return {text, std::to_chars(text, text + sizeof text, value).ptr};
 }
 
-template <class Work, class Input>
-void ForEach(benchmark::State& state, const std::vector<Input>& inputs, Work work) {
-    for (auto _ : state) {
+template <class Input, class Work>
+std::function<void()> ForEach(const std::vector<Input>& inputs, Work work) {
+    return [inputs, work] {
         for (const Input& input : inputs)
             benchmark::DoNotOptimize(work(input));
-    }
+    };
 }
 
 std::vector<std::string> Texts(Digits digits) {
@@ -92,42 +89,31 @@ std::vector<std::string> Texts(Digits digits) {
     return texts;
 }
 
-void PrintByToChars(benchmark::State& state, Digits digits) {
-    ForEach(state, Doubles(digits), PrintShortest);
+Turns PrintingDoubles(Digits digits) {
+    return {ForEach(Doubles(digits), PrintShortest), ForEach(Doubles(digits), tessera::PrintDouble)};
 }
-void PrintByRuntime(benchmark::State& state, Digits digits) {
-    ForEach(state, Doubles(digits), [](double value) { return tessera::PrintDouble(value); });
-}
-void ReadByStrtod(benchmark::State& state, Digits digits) {
-    ForEach(state, Texts(digits), [](const std::string& text) { return std::strtod(text.c_str(), nullptr); });
-}
-void ReadByRuntime(benchmark::State& state, Digits digits) {
-    ForEach(state, Texts(digits), [](const std::string& text) { return tessera::ParseDouble(text); });
+
+Turns ReadingDoubles(Digits digits) {
+    return {
+        ForEach(Texts(digits), [](const std::string& text) { return std::strtod(text.c_str(), nullptr); }),
+        ForEach(Texts(digits), [](const std::string& text) { return tessera::ParseDouble(text); })};
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     using namespace tessera;
-    benchmark::RegisterBenchmark("g_base64_encode", GlibEncode);
-    benchmark::RegisterBenchmark("g_base64_decode", GlibDecode);
-    benchmark::RegisterBenchmark("PrintBase64", Print<PrintBase64>);
-    benchmark::RegisterBenchmark("ParseBase64", Parse<PrintBase64, ParseBase64>);
-    benchmark::RegisterBenchmark("PrintHex", Print<PrintHex>);
-    benchmark::RegisterBenchmark("ParseHex", Parse<PrintHex, ParseHex>);
-    std::vector<Ratio> ratios = {{"PrintBase64", "g_base64_encode", binaryLimit},
-                                 {"ParseBase64", "g_base64_decode", binaryLimit},
-                                 {"PrintHex", "g_base64_encode", binaryLimit},
-                                 {"ParseHex", "g_base64_decode", binaryLimit}};
-    const std::pair<std::string, Digits> kinds[] = {{"FewDigits", Digits::FEW}, {"AllDigits", Digits::ALL}};
+    std::vector<Comparison> comparisons = {
+        {"printing Base64 : g_base64_encode", binaryLimit, [] { return PrintingOverGlib(PrintBase64); }},
+        {"reading Base64 : g_base64_decode", binaryLimit, ParsingBase64OverGlib},
+        {"printing hexadecimal : g_base64_encode", binaryLimit, [] { return PrintingOverGlib(PrintHex); }},
+        {"reading hexadecimal : g_base64_encode", binaryLimit, ParsingHexOverGlib}};
+    const std::pair<std::string, Digits> kinds[] = {{"few digits", Digits::FEW}, {"all digits", Digits::ALL}};
     for (const auto& [kind, digits] : kinds) {
-        benchmark::RegisterBenchmark(("to_chars/" + kind).c_str(), PrintByToChars, digits);
-        benchmark::RegisterBenchmark(("PrintDouble/" + kind).c_str(), PrintByRuntime, digits);
-        benchmark::RegisterBenchmark(("strtod/" + kind).c_str(), ReadByStrtod, digits);
-        benchmark::RegisterBenchmark(("ParseDouble/" + kind).c_str(), ReadByRuntime, digits);
-        ratios.push_back({"PrintDouble/" + kind, "to_chars/" + kind, doubleLimit});
-        ratios.push_back({"ParseDouble/" + kind, "strtod/" + kind, doubleLimit});
+        comparisons.push_back({"printing doubles : std::to_chars, " + kind, doubleLimit,
+                               [digits = digits] { return PrintingDoubles(digits); }});
+        comparisons.push_back({"reading doubles : strtod, " + kind, doubleLimit,
+                               [digits = digits] { return ReadingDoubles(digits); }});
     }
-    RunBenchmarks(argc, argv, ratios);
-    return EXIT_SUCCESS;
+    return RunComparisons(argc, argv, comparisons);
 }
