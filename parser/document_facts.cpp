@@ -50,7 +50,7 @@ std::u16string_view TtmlParser::strGetLanguage() const {
     const xercesc::DOMNode* const pRoot = documentRoot_.tt.first().GetNode();
     const xercesc::DOMNode* const pLanguage =
         pRoot ? XercesTreeOperations::FindAttribute(pRoot, XML_NAMESPACE, "lang") : nullptr;
-    return pLanguage ? std::u16string_view(pLanguage->getNodeValue()) : std::u16string_view();
+    return pLanguage ? reinterpret_cast<const char16_t*>(pLanguage->getNodeValue()) : std::u16string_view();
 }
 
 std::optional<Cbody_eltype> TtmlParser::rFindBodyWithDivision() const {
