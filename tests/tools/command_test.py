@@ -212,7 +212,7 @@ class Texts(unittest.TestCase):
     def test_json_holds_the_text_as_it_is(self):
         item = json_of("list", "-", data=self.DATA)["items"][0]
         self.assertEqual(item["text"], "a\tb\nc\nd\x85\x9b[2J\U0001F600\u05D0 <&")
-        self.assertEqual([run["lineBreak"] for run in item["runs"]], [False, True, False])
+        self.assertEqual([run.get("lineBreak") for run in item["runs"]], [None, True, None])
 
     def test_document_without_items(self):
         for data in (b'<tt xmlns="http://www.w3.org/ns/ttml"/>', document()):

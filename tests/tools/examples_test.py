@@ -123,8 +123,8 @@ class Examples(unittest.TestCase):
 
     def test_forced_display_and_visibility(self):
         items = listed("forced.en")["items"]
-        self.assertEqual([item["forcedDisplay"] for item in items], [True, False, False, False])
-        self.assertEqual(items[3]["runs"][1]["styling"]["visibility"], "hidden")
+        self.assertEqual([item.get("forcedDisplay") for item in items], [True, None, None, None])
+        self.assertEqual(items[3]["runs"][1]["styling"], {"visibility": "hidden"})
         self.assertIn("[hidden] Two days of this.", output_of("list", EXAMPLES / "forced.en.ttml"))
 
     def test_table(self):

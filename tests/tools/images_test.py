@@ -51,7 +51,7 @@ class Images(unittest.TestCase):
                 },
             )
             offset += len(picture)
-        self.assertEqual([item["forcedDisplay"] for item in items], [False, False, True, False])
+        self.assertEqual([item.get("forcedDisplay") for item in items], [None, None, True, None])
 
     def test_several_files_make_a_block(self):
         images = []

@@ -58,7 +58,8 @@ TEST(TextEncoding, CountsCodePoints) {
 TEST(JsonOutput, EscapesEveryControlCharacter) {
     const std::string text = "a\n\x7F\xC2\x80\xC2\x9F\xC2\xA0ä";
     EXPECT_EQ(ToText(text), "\"a\\n\\u007f\\u0080\\u009f\xC2\xA0ä\"");
-    EXPECT_EQ(Json::parse(ToText(text)), text);
+    EXPECT_EQ(Quoted(text), ToText(text));
+    EXPECT_EQ(Json::parse(Quoted("\"\\\t")), "\"\\\t");
 }
 
 std::string PngFile(std::string_view header, std::string_view size) {

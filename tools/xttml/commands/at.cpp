@@ -5,6 +5,8 @@
 #include "tools/xttml/output/json_output.h"
 #include "tools/xttml/text/text_encoding.h"
 
+#include <fmt/format.h>
+
 namespace xttml {
 
 namespace {
@@ -63,22 +65,19 @@ std::string ToLines(const Answer& answer, const DisplaySequence& sequence) {
     return lines;
 }
 
-Json ToJson(const Answer& answer, const JsonItems& json) {
-    Json items = Json::array();
-    for (const DisplayItem* const item : answer.screen.items)
-        items.push_back(json.ToJson(*item));
-    return {{"time", answer.time},
-            {"items", std::move(items)},
-            {"merged", answer.merged ? Json(Utf8FromUtf16(Content(*answer.merged))) : Json()},
-            {"next", json.ToJson(answer.screen.next)}};
+std::string ToJson(const Answer& answer, JsonItems& items) {
+    return fmt::format(R"({{"time":{},"items":{},"merged":{},"next":{}}})", answer.time,
+                       items.ToText(answer.screen.items),
+                       answer.merged ? Quoted(Utf8FromUtf16(Content(*answer.merged))) : "null",
+                       answer.screen.next ? items.ToText(*answer.screen.next) : "null");
 }
 
 void WriteJson(StandardOutput& output, const AtOptions& options, const std::vector<MediaTime>& times,
                const DisplaySequence& sequence, const ItemOrigins& origins) {
-    const JsonItems items(sequence, origins, options.detail);
+    JsonItems items(sequence, origins, options.detail);
     const char* separator = "[\n";
     for (const MediaTime time : times) {
-        output.Write(separator + ToText(ToJson(Ask(options, time, sequence), items)));
+        output.Write(separator + ToJson(Ask(options, time, sequence), items));
         separator = ",\n";
     }
     output.Write("\n]\n");

@@ -26,8 +26,8 @@ Summary Summarise(const std::string& file, const DisplaySequence& sequence) {
 
 Json ToJson(const Summary& summary) {
     return {{"file", summary.file},
-            {"start", TimeToJson(summary.span.begin)},
-            {"end", TimeToJson(summary.span.end)},
+            {"start", NumberOf(summary.span.begin)},
+            {"end", NumberOf(summary.span.end)},
             {"width", summary.root.width},
             {"height", summary.root.height},
             {"language", summary.language.empty() ? Json() : Json(summary.language)}};
@@ -41,11 +41,11 @@ std::string ToLine(const Summary& summary) {
 }
 
 void WriteJson(StandardOutput& output, const Summary& summary, const DisplaySequence& sequence,
-               const JsonItems& items) {
+               JsonItems items) {
     output.Write("{\"document\":" + ToText(ToJson(summary)) + ",\n\"items\":[");
     const char* separator = "\n";
     for (const DisplayItem* const item : sequence.Items()) {
-        output.Write(separator + ToText(items.ToJson(*item)));
+        output.Write(separator + items.ToText(*item));
         separator = ",\n";
     }
     output.Write("\n]}\n");

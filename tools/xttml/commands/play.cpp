@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <fmt/format.h>
 #include <functional>
 #include <thread>
 
@@ -27,11 +28,9 @@ std::string ToLine(const Change& change, const DisplaySequence& sequence) {
            ScreenLine(change.item, sequence.Images()) + '\n';
 }
 
-std::string ToJsonLine(const Change& change, const JsonItems& items) {
-    return ToText({{"time", change.time},
-                   {"change", change.comes ? "comes" : "goes"},
-                   {"item", items.ToJson(change.item)}}) +
-           '\n';
+std::string ToJsonLine(const Change& change, JsonItems& items) {
+    return fmt::format("{{\"time\":{},\"change\":\"{}\",\"item\":{}}}\n", change.time,
+                       change.comes ? "comes" : "goes", items.ToText(change.item));
 }
 
 /// Writes what comes and goes, in real time when asked to.
@@ -100,7 +99,7 @@ void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& 
     const MediaTime from = TimeOf(options.from, document).value_or(StartOf(sequence, input.offset));
     const std::optional<MediaTime> to = TimeOf(options.to, document);
     const ItemOrigins origins = options.json ? document.Origins() : ItemOrigins();
-    const JsonItems items(sequence, origins, options.detail);
+    JsonItems items(sequence, origins, options.detail);
     const ChangeText toText = [&](const Change& change) {
         return options.json ? ToJsonLine(change, items) : ToLine(change, sequence);
     };

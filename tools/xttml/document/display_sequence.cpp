@@ -20,6 +20,12 @@ x_ttml_handle MakeParser() {
     return parser;
 }
 
+std::string ReadLanguage(x_ttml_handle parser) {
+    std::string language(x_ttml_get_language(parser, nullptr, 0) + 1, '\0');
+    language.resize(x_ttml_get_language(parser, language.data(), language.size()));
+    return language;
+}
+
 /// The library's reason without the place that it begins with where there is one.
 std::string WithoutPlace(std::string_view reason, bool hasPlace) {
     return std::string(hasPlace ? reason.substr(reason.find(": ") + 2) : reason);
@@ -45,6 +51,8 @@ DisplaySequence::DisplaySequence(const Source& source, const ImageBlock& images,
     Require(generate(parser, 0), source);
     for (std::uint32_t i = 0; i < x_ttml_get_item_count(parser); ++i)
         items_.push_back(x_ttml_get_item(parser, i));
+    language_ = ReadLanguage(parser);
+    x_ttml_destory_doc(parser); // its memory is many times that of the items
 }
 
 void DisplaySequence::Require(int status, const Source& source) const {
@@ -98,12 +106,6 @@ PixelSize DisplaySequence::RootContainer() const {
     std::int32_t height = 0;
     x_ttml_get_tt_extent(parser_.get(), &width, &height);
     return {static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height)};
-}
-
-std::string DisplaySequence::Language() const {
-    std::string language(x_ttml_get_language(parser_.get(), nullptr, 0) + 1, '\0');
-    language.resize(x_ttml_get_language(parser_.get(), language.data(), language.size()));
-    return language;
 }
 
 ItemList DisplaySequence::OnScreen(MediaTime time) const {

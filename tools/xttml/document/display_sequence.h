@@ -43,7 +43,7 @@ public:
     /// The root container.
     PixelSize RootContainer() const;
     /// The xml:lang of the document; empty without one.
-    std::string Language() const;
+    const std::string& Language() const { return language_; }
 
     /// All that is on screen. Nothing is before the document's time line begins.
     ItemList OnScreen(MediaTime time) const;
@@ -70,6 +70,7 @@ private:
     MediaTime offset_;
     std::unique_ptr<void, ParserDeleter> parser_;
     ItemList items_;
+    std::string language_;
 };
 
 } // namespace xttml

@@ -6,7 +6,8 @@
 #include "tools/xttml/document/document_model.h"
 #include "tools/xttml/document/item_origins.h"
 
-#include <memory>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ struct Input {
     bool isTrusted = false;          ///< may name other documents and be of any size
 };
 
-/// A document, its items, and, when something asks for them, its elements. The XML library must be
+/// A document, its items, and, when something asks for them, what its elements say. The XML library must be
 /// initialised as long as it lives.
 class Document {
 public:
@@ -29,17 +30,15 @@ public:
 
     const DisplaySequence& Sequence() const { return sequence_; }
     /// Where the items come from.
-    ItemOrigins Origins() { return {Model(), sequence_}; }
+    ItemOrigins Origins() const { return {DocumentModel(source_), sequence_}; }
     /// A time as the user writes it. Throws UnusableFile for a frame that the document's rate does not have.
     MediaTime TimeOf(const WrittenTime& time);
 
 private:
-    const DocumentModel& Model();
-
     Source source_;
     ImageBlock images_;
     DisplaySequence sequence_;
-    std::unique_ptr<DocumentModel> model_;
+    std::optional<std::int32_t> frameRate_; // once a time with frames has been asked for
 };
 
 } // namespace xttml

@@ -4,12 +4,33 @@
 #include "tools/xttml/output/styling_words.h"
 #include "tools/xttml/text/text_encoding.h"
 
+#include <algorithm>
 #include <fmt/format.h>
+#include <iterator>
 #include <xttml/style/color.h>
 
 namespace xttml {
 
 namespace {
+
+/// JSON with every control character in it as an escape of a string.
+std::string EscapeControls(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char32_t control = ControlAt(text, i);
+        if (control == noControl) {
+            result.push_back(text[i]);
+            continue;
+        }
+        if (control == '\n')
+            result += "\\n";
+        else
+            fmt::format_to(std::back_inserter(result), "\\u{:04x}", static_cast<std::uint32_t>(control));
+        i += BytesOfControl(control) - 1;
+    }
+    return result;
+}
 
 Json ColorToJson(const std::string& color) {
     std::string text = color;
@@ -115,22 +136,18 @@ Json StylingToJson(const StylingAttrib& styling, Detail detail) {
     return result;
 }
 
+/// Whether two records have the same in all that is told of them.
+bool AreAlike(const StylingAttrib& left, const StylingAttrib& right) {
+    return std::all_of(std::begin(stylingFields), std::end(stylingFields),
+                       [&](const StylingField& field) { return field.isEqual(left, right); });
+}
+
 /// What a run has otherwise than its item.
 Json DifferenceToJson(const StylingAttrib& run, const StylingAttrib& item) {
     Json result = Json::object();
     for (const StylingField& field : stylingFields)
         if (!field.isEqual(run, item))
             result.emplace(field.name, field.toJson(run));
-    return result;
-}
-
-Json RunToJson(const Sentence& run, const DisplayItem& item, Detail detail) {
-    Json result = {{"text", Utf8FromUtf16({run.vecText.data(), run.vecText.size()})},
-                   {"lineBreak", run.fgLineBreak}};
-    if (detail == Detail::FULL)
-        result["styling"] = run.pStylingAttrib ? StylingToJson(*run.pStylingAttrib, detail) : Json();
-    else if (Json difference = DifferenceToJson(StylingOf(run, item), item.styling); !difference.empty())
-        result["styling"] = std::move(difference);
     return result;
 }
 
@@ -146,74 +163,129 @@ Json ImageToJson(const ImageItem& item, const ImageBlock& images, Detail detail)
     return result;
 }
 
-void AddNames(Json& result, const ItemOrigin& origin, Detail detail) {
-    const auto add = [&](const char* name, const std::optional<std::string>& text) {
-        if (text || detail == Detail::FULL)
-            result[name] = TextToJson(text);
-    };
-    add("id", origin.id);
-    add("region", origin.region);
-    add("style", origin.style);
+void AppendField(std::string& object, const char* name, std::string_view json) {
+    object += object.back() == '{' ? "\"" : ",\"";
+    object += name;
+    object += "\":";
+    object += json;
+}
+
+void AppendFlag(std::string& object, const char* name, bool value, Detail detail) {
+    if (value || detail == Detail::FULL)
+        AppendField(object, name, value ? "true" : "false");
 }
 
 /// What only a player that fills in and merges content has a use for.
-void AddContent(Json& result, const TextItem& text) {
-    result["combined"] = text.fgCombined;
-    result["content"] = Utf8FromUtf16({text.vecContent.data(), text.vecContent.size()});
-    result["plainContent"] = Utf8FromLatin1(text.strContent);
+void AppendContent(std::string& object, const TextItem& text) {
+    AppendField(object, "combined", text.fgCombined ? "true" : "false");
+    AppendField(object, "content", Quoted(Utf8FromUtf16({text.vecContent.data(), text.vecContent.size()})));
+    AppendField(object, "plainContent", Quoted(Utf8FromLatin1(text.strContent)));
+}
+
+void AppendNames(std::string& object, const ItemOrigin& origin, Detail detail) {
+    const auto append = [&](const char* name, const std::optional<std::string>& text) {
+        if (text || detail == Detail::FULL)
+            AppendField(object, name, text ? Quoted(*text) : "null");
+    };
+    append("id", origin.id);
+    append("region", origin.region);
+    append("style", origin.style);
+}
+
+template <class Things, class Text>
+std::string ArrayOf(const Things& things, Text&& textOf) {
+    std::string array = "[";
+    for (const auto& thing : things) {
+        array += array.size() == 1 ? "" : ",";
+        array += textOf(thing);
+    }
+    return array + ']';
 }
 
 } // namespace
 
-Json JsonItems::RunsToJson(const DisplayItem& item) const {
-    Json runs = Json::array();
-    for (const Sentence* const run : Runs(item))
-        runs.push_back(RunToJson(*run, item, detail_));
-    return runs;
+template <class MakeJson>
+std::string JsonItems::KnownText(const StylingAttrib& styling, const StylingAttrib* base,
+                                 MakeJson&& makeJson) {
+    constexpr std::size_t mostKnown = 16;
+    const auto isAlike = [&](const KnownStyling& known) {
+        return known.base.has_value() == (base != nullptr) && AreAlike(known.styling, styling) &&
+               (!base || AreAlike(*known.base, *base));
+    };
+    const auto found = std::find_if(known_.begin(), known_.end(), isAlike);
+    if (found != known_.end())
+        return found->text;
+    if (known_.size() == mostKnown)
+        known_.clear();
+    known_.push_back({styling, base ? std::optional(*base) : std::nullopt, xttml::ToText(makeJson())});
+    return known_.back().text;
 }
 
-Json JsonItems::ToJson(const DisplayItem& item) const {
+std::string JsonItems::StylingText(const StylingAttrib& styling) {
+    const auto makeJson = [&] { return StylingToJson(styling, detail_); };
+    // Records that are alike may differ in what else there is.
+    return detail_ == Detail::FULL ? xttml::ToText(makeJson()) : KnownText(styling, nullptr, makeJson);
+}
+
+std::string JsonItems::DifferenceText(const StylingAttrib& run, const StylingAttrib& item) {
+    return KnownText(run, &item, [&] { return DifferenceToJson(run, item); });
+}
+
+std::string JsonItems::RunText(const Sentence& run, const DisplayItem& item) {
+    std::string object = "{";
+    AppendField(object, "text", Quoted(Utf8FromUtf16({run.vecText.data(), run.vecText.size()})));
+    AppendFlag(object, "lineBreak", run.fgLineBreak, detail_);
+    if (detail_ == Detail::FULL)
+        AppendField(object, "styling", run.pStylingAttrib ? StylingText(*run.pStylingAttrib) : "null");
+    else if (run.pStylingAttrib && !AreAlike(*run.pStylingAttrib, item.styling))
+        AppendField(object, "styling", DifferenceText(*run.pStylingAttrib, item.styling));
+    return object + '}';
+}
+
+std::string JsonItems::RunsText(const DisplayItem& item) {
+    return ArrayOf(Runs(item), [&](const Sentence* run) { return RunText(*run, item); });
+}
+
+std::string JsonItems::ToText(const DisplayItem& item) {
     const TimeSpan span = sequence_.SpanOf(item);
-    Json result = {{"begin", TimeToJson(span.begin)}, {"end", TimeToJson(span.end)}};
-    AddNames(result, origins_.Of(item), detail_);
-    result["forcedDisplay"] = item.fgForcedDisplay;
-    result["text"] = Utf8FromUtf16(WholeText(item));
-    result["styling"] = StylingToJson(item.styling, detail_);
+    std::string object = fmt::format("{{\"begin\":{},\"end\":{}", NumberOf(span.begin), NumberOf(span.end));
+    AppendNames(object, origins_.Of(item), detail_);
+    AppendFlag(object, "forcedDisplay", item.fgForcedDisplay, detail_);
+    AppendField(object, "text", Quoted(Utf8FromUtf16(WholeText(item))));
+    AppendField(object, "styling", StylingText(item.styling));
     if (detail_ == Detail::FULL) {
-        result["hasRegion"] = item.pRegionAttrib != nullptr;
-        result["hasStyle"] = item.pStyleAttrib != nullptr;
+        AppendFlag(object, "hasRegion", item.pRegionAttrib != nullptr, detail_);
+        AppendFlag(object, "hasStyle", item.pStyleAttrib != nullptr, detail_);
     }
-    result["runs"] = RunsToJson(item);
+    AppendField(object, "runs", RunsText(item));
     if (const auto* const text = dynamic_cast<const TextItem*>(&item); text && detail_ == Detail::FULL)
-        AddContent(result, *text);
+        AppendContent(object, *text);
     if (const auto* const image = dynamic_cast<const ImageItem*>(&item))
-        result["image"] = ImageToJson(*image, sequence_.Images(), detail_);
-    return result;
+        AppendField(object, "image", xttml::ToText(ImageToJson(*image, sequence_.Images(), detail_)));
+    return object + '}';
 }
 
-Json TimeToJson(const std::optional<MediaTime>& time) {
+std::string JsonItems::ToText(const ItemList& items) {
+    return ArrayOf(items, [this](const DisplayItem* item) { return ToText(*item); });
+}
+
+MediaTime NumberOf(const std::optional<MediaTime>& time) {
     return time.value_or(-1);
-}
-
-Json TextToJson(const std::optional<std::string>& text) {
-    return text ? Json(*text) : Json();
 }
 
 // They stand in strings only, where an escape means the same.
 std::string ToText(const Json& json) {
-    const std::string text = json.dump(-1, ' ', false, Json::error_handler_t::replace);
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char32_t control = ControlAt(text, i);
-        if (control == noControl) {
-            result.push_back(text[i]);
-            continue;
-        }
-        result += fmt::format("\\u{:04x}", static_cast<std::uint32_t>(control));
-        i += BytesOfControl(control) - 1;
+    return EscapeControls(json.dump(-1, ' ', false, Json::error_handler_t::replace));
+}
+
+std::string Quoted(std::string_view text) {
+    std::string quoted = "\"";
+    for (const char character : text) {
+        if (character == '"' || character == '\\')
+            quoted += '\\';
+        quoted += character;
     }
-    return result;
+    return EscapeControls(quoted + '"');
 }
 
 } // namespace xttml

@@ -5,6 +5,9 @@
 #include "tools/xttml/document/item_origins.h"
 
 #include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace xttml {
 
@@ -13,37 +16,51 @@ using Json = nlohmann::ordered_json;
 
 /// How much of an item is told.
 enum class Detail {
-    ESSENTIAL, ///< without what the library does not use and what a run has as its item has it
+    ESSENTIAL, ///< without what the library does not use, what is false and what a run has as its item has it
     FULL       ///< every field of the item, of its records and of its runs
 };
 
-/// The items of a sequence as JSON.
+/// The items of a sequence as JSON. Text and no Json value: a film has thousands of them.
 class JsonItems {
 public:
     JsonItems(const DisplaySequence& sequence, const ItemOrigins& origins, Detail detail)
         : sequence_(sequence), origins_(origins), detail_(detail) {}
 
-    Json ToJson(const DisplayItem& item) const;
-    /// An item or null.
-    Json ToJson(const DisplayItem* item) const { return item ? ToJson(*item) : Json(); }
+    /// An object on one line.
+    std::string ToText(const DisplayItem& item);
+    /// The objects of several as an array.
+    std::string ToText(const ItemList& items);
 
 private:
-    Json RunsToJson(const DisplayItem& item) const;
+    /// A record and the JSON of it, or of what it has otherwise than another.
+    struct KnownStyling {
+        StylingAttrib styling;
+        std::optional<StylingAttrib> base;
+        std::string text;
+    };
+
+    std::string RunText(const Sentence& run, const DisplayItem& item);
+    std::string RunsText(const DisplayItem& item);
+    std::string StylingText(const StylingAttrib& styling);
+    std::string DifferenceText(const StylingAttrib& run, const StylingAttrib& item);
+    template <class MakeJson>
+    std::string KnownText(const StylingAttrib& styling, const StylingAttrib* base, MakeJson&& makeJson);
 
     const DisplaySequence& sequence_;
     const ItemOrigins& origins_;
     Detail detail_;
+    std::vector<KnownStyling> known_; // most items share a few
 };
 
 /// A time; -1 when it is unknown.
-Json TimeToJson(const std::optional<MediaTime>& time);
+MediaTime NumberOf(const std::optional<MediaTime>& time);
 
-/// A text or null.
-Json TextToJson(const std::optional<std::string>& text);
-
-/// JSON on one line. Every control character in it is escaped, those beyond ASCII included; what is no UTF-8, a
-/// file's name at most, becomes U+FFFD.
+/// JSON on one line. Every control character in it is escaped, those beyond ASCII included; what is no UTF-8,
+/// a file's name at most, becomes U+FFFD.
 std::string ToText(const Json& json);
+
+/// A JSON string of UTF-8, escaped likewise.
+std::string Quoted(std::string_view text);
 
 } // namespace xttml
 
