@@ -3,7 +3,7 @@
 #ifndef XTTML_TOOLS_XTTML_COMMANDS_COMMANDS_H
 #define XTTML_TOOLS_XTTML_COMMANDS_COMMANDS_H
 
-#include "tools/xttml/command_line.h"
+#include "tools/xttml/command_line/command_line.h"
 #include "tools/xttml/output/standard_output.h"
 
 namespace xttml {

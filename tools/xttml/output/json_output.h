@@ -3,16 +3,13 @@
 #define XTTML_TOOLS_XTTML_OUTPUT_JSON_OUTPUT_H
 
 #include "tools/xttml/document/item_origins.h"
+#include "tools/xttml/output/styling_json.h"
 
-#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace xttml {
-
-/// Objects keep their fields in the order in which they are documented.
-using Json = nlohmann::ordered_json;
 
 /// How much of an item is told.
 enum class Detail {

@@ -1,6 +1,6 @@
 // Which command a command line means.
-#ifndef XTTML_TOOLS_XTTML_COMMAND_NAMES_H
-#define XTTML_TOOLS_XTTML_COMMAND_NAMES_H
+#ifndef XTTML_TOOLS_XTTML_COMMAND_LINE_COMMAND_NAMES_H
+#define XTTML_TOOLS_XTTML_COMMAND_LINE_COMMAND_NAMES_H
 
 #include <string>
 #include <vector>

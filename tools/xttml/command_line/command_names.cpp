@@ -1,4 +1,4 @@
-#include "tools/xttml/command_names.h"
+#include "tools/xttml/command_line/command_names.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,6 +1,6 @@
 // What the user asked for.
-#ifndef XTTML_TOOLS_XTTML_COMMAND_LINE_H
-#define XTTML_TOOLS_XTTML_COMMAND_LINE_H
+#ifndef XTTML_TOOLS_XTTML_COMMAND_LINE_COMMAND_LINE_H
+#define XTTML_TOOLS_XTTML_COMMAND_LINE_COMMAND_LINE_H
 
 #include "tools/xttml/document/document.h"
 #include "tools/xttml/document/saved_document.h"

@@ -1,34 +1,10 @@
-#include "tools/xttml/command_line.h"
+#include "tools/xttml/command_line/command_options.h"
 
-#include "tools/xttml/command_names.h"
 #include "tools/xttml/text/media_time.h"
-#include "tools/xttml/text/text_encoding.h"
-
-#include <CLI/CLI.hpp>
-#include <algorithm>
-#include <fmt/ranges.h>
-#include <functional>
-#include <x_ttml_version.h>
 
 namespace xttml {
 
 namespace {
-
-constexpr const char* exitCodes = "Exit codes: 0 done, 1 a document is unusable or the output cannot be "
-                                  "written, 2 wrong usage.";
-
-constexpr const char* generalExamples = R"(
-Examples:
-  xttml film.ttml                         every subtitle with its place, colours, font and text (list)
-  xttml list --json film.ttml | jq .items the same for programs
-  xttml at film.ttml 1500 2.5s 00:01:00   what is on screen at these times
-  xttml play film.ttml --realtime         the subtitles as a viewer would see them come and go
-  zcat film.ttml.gz | xttml play -        a document from standard input
-  xttml list film.ttml --images film.png  image subtitles with their block of PNG files
-  xttml extract film.ttml --images film.png --to pictures
-  xttml save film.ttml -o film16.ttml --encoding UTF-16
-
-)";
 
 const CLI::Validator timeFormat(
     [](const std::string& text) {
@@ -48,36 +24,6 @@ const CLI::Validator stepFormat(
         return step && *step > 0 ? "" : "'" + text + "' is not a whole number of 1 or more";
     },
     "");
-
-/// The options as they stand on the command line, checked.
-struct Arguments {
-    std::string file;               // of a command that takes one
-    std::vector<std::string> files; // of one that takes several
-    std::vector<std::string> images;
-    std::string offset = "0";
-    std::vector<std::string> times;
-    std::string from, to, step;
-    std::string target;
-    DocumentForm form;
-    bool json = false;
-    bool full = false;
-    bool first = false;
-    bool combine = false;
-    bool realtime = false;
-    bool force = false;
-    bool trusted = false;
-    bool verbose = false;
-
-    Detail HowMuch() const { return full ? Detail::FULL : Detail::ESSENTIAL; }
-    Query HowAsked() const { return first || combine ? Query::FIRST : Query::ALL; }
-    ExistingFile Existing() const { return force ? ExistingFile::REPLACED : ExistingFile::KEPT; }
-};
-
-/// A command and how its options are read.
-struct Command {
-    CLI::App* app;
-    std::function<decltype(Invocation::command)(const Arguments&)> makeOptions;
-};
 
 // Options of more than one command.
 
@@ -235,69 +181,11 @@ Command AddSave(CLI::App& app, Arguments& arguments) {
     return {save, MakeSaveOptions};
 }
 
+} // namespace
+
 std::vector<Command> AddCommands(CLI::App& app, Arguments& arguments) {
     return {AddList(app, arguments), AddAt(app, arguments), AddPlay(app, arguments),
             AddExtract(app, arguments), AddSave(app, arguments)};
-}
-
-// What a parse ends in.
-
-Invocation MakeInvocation(const Command& command, const Arguments& arguments) {
-    Invocation invocation{{}, arguments.verbose, command.makeOptions(arguments)};
-    const std::vector<std::string> one = {arguments.file};
-    for (const std::string& file : arguments.files.empty() ? one : arguments.files)
-        invocation.inputs.push_back(
-            {file, arguments.images, ParseInteger(arguments.offset).value(), arguments.trusted});
-    return invocation;
-}
-
-/// @param command that the usage is of; empty: the tool
-Notice WrongUsage(const std::string& reason, const std::string& command) {
-    return {OnOneLine("xttml: " + reason) +
-                fmt::format("\nTry 'xttml {}--help'.\n", command.empty() ? "" : command + " "),
-            true};
-}
-
-// In the order in which they were given, which ExtrasError reverses.
-std::string Describe(const CLI::ParseError& error, const CLI::App& app) {
-    const std::vector<std::string> extras = app.remaining(true);
-    if (!dynamic_cast<const CLI::ExtrasError*>(&error) || extras.empty())
-        return error.what();
-    return fmt::format("not expected: {}", fmt::join(extras, " "));
-}
-
-} // namespace
-
-std::variant<Invocation, Notice> ParseCommandLine(int argc, const char* const* argv) {
-    CLI::App app("A player without a screen for TTML subtitles.", "xttml");
-    Arguments arguments;
-    app.set_version_flag("--version", "xttml " XTTML_VERSION);
-    app.footer(std::string(generalExamples) + exitCodes);
-    const std::vector<Command> commands = AddCommands(app, arguments);
-    CommandNames names;
-    for (const Command& command : commands)
-        names.push_back(command.app->get_name());
-    std::vector<std::string> words(argv + 1, argv + argc);
-    if (MeansList(words, names))
-        words.insert(words.begin(), "list");
-    const auto parsed = [](const Command& command) { return command.app->parsed(); };
-    auto used = commands.end();
-    try {
-        app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
-        used = std::find_if(commands.begin(), commands.end(), parsed);
-        if (used == commands.end())
-            return WrongUsage(WhatIsMissing(words, names), "");
-        return MakeInvocation(*used, arguments);
-    } catch (const CLI::CallForVersion& version) {
-        return Notice{std::string(version.what()) + "\n", false};
-    } catch (const CLI::CallForHelp&) {
-        return Notice{app.help(), false};
-    } catch (const CLI::ParseError& error) {
-        used = std::find_if(commands.begin(), commands.end(), parsed);
-        if (used == commands.end() && !words.empty())
-            return WrongUsage(WhatIsMissing(words, names), "");
-        return WrongUsage(Describe(error, app), used->app->get_name());
-    }
 }
 
 } // namespace xttml
