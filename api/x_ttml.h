@@ -18,11 +18,11 @@
  *     input only these throw: x_ttml_load_subtitle_from_file() for a file that cannot be read or is not
  *     well-formed XML; the two generators for an attribute that does not convert or is missing. A player
  *     that cannot receive C++ exceptions calls their namesakes in x_ttml_items.h.
- *  4. Memory. Lack of it ends in std::bad_alloc, but for the loads: from memory, in X_TTML_UNUSABLE; from a
- *     file, also in tessera::DataSourceUnavailableException or in the XML library's own
- *     xercesc::OutOfMemoryException, which is no std::exception. x_ttml_init_xerces() throws that as well
- *     and must not be called again then; or the XML library ends the process. Queries by time,
- *     x_ttml_destory_doc() and x_ttml_delete_parser() need no memory.
+ *  4. Memory. Lack of it ends in std::bad_alloc, but for the load from memory, which gives X_TTML_UNUSABLE; a
+ *     file may then also count as one that cannot be read. While it is initialised, by x_ttml_init_xerces()
+ *     or the first load from a file, the XML library may end the process instead; once an initialisation has
+ *     thrown, the XML library is lost to the process: later ones throw as well, loads from memory fail.
+ *     Queries by time, x_ttml_destory_doc() and x_ttml_delete_parser() need no memory.
  *  5. Ownership. The parser owns its display items and its copy of the image data; both live until it is
  *     deleted. The caller keeps every buffer that it passes in. A loaded document is released by
  *     x_ttml_destory_doc() alone: call it before loading again and before deleting the parser.

@@ -4,8 +4,6 @@
 #include "runtime/exceptions.h"
 #include "runtime/utf8.h"
 
-#include <xercesc/util/OutOfMemoryException.hpp>
-
 #include <new>
 
 namespace {
@@ -54,8 +52,6 @@ Failure rDescribe(const LoadFault& fault, const char* attribute) {
         return rFromValue(exception.message(), attribute);
     } catch (const std::bad_alloc&) {
         throw;
-    } catch (const xercesc::OutOfMemoryException&) {
-        throw std::bad_alloc();
     } catch (const std::exception& exception) {
         return {FAILURE_OTHER, exception.what(), 0, 0};
     } catch (...) {

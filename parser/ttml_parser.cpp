@@ -1,8 +1,7 @@
 #include "parser/ttml_parser.h"
 
 #include "runtime/progress_lines.h"
-
-#include <xercesc/util/PlatformUtils.hpp>
+#include "xmltree/xml_library.h"
 
 #include <utility>
 
@@ -41,7 +40,7 @@ bool TtmlParser::fgHoldDocument(const Cttaf1_dfxp& loaded) {
 
 bool TtmlParser::fgLoadDocument(const char* path) {
     tessera::WriteLine("loadFromFile called!");
-    xercesc::XMLPlatformUtils::Initialize();
+    xml_library::Initialise();
     const Cttaf1_dfxp loaded = Cttaf1_dfxp::LoadFromFile(path ? path : "", rTellingFault());
     tessera::WriteLine("loadFromFile finished!");
     return fgHoldDocument(loaded);
@@ -81,12 +80,12 @@ void TtmlParser::vCloseDocument() {
 
 void TtmlParser::vXercesInit() {
     tessera::WriteLine("Initialize Xerces");
-    xercesc::XMLPlatformUtils::Initialize();
+    xml_library::Initialise();
 }
 
 void TtmlParser::vXercesTerminate() {
     tessera::WriteLine("Terminate Xerces");
-    xercesc::XMLPlatformUtils::Terminate();
+    xml_library::Terminate();
 }
 
 void TtmlParser::vGenerateRegionAttribSequence() {

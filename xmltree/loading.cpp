@@ -6,15 +6,18 @@
 #include "xmltree/document_parser.h"
 #include "xmltree/transcode.h"
 #include "xmltree/untrusted_parser.h"
+#include "xmltree/xml_library.h"
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax/SAXException.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 
+#include <new>
 #include <utility>
 
 using tessera::DataSourceUnavailableException;
@@ -50,7 +53,7 @@ public:
 
 template <class Parser, class Report, class Parse>
 DOMDocument* ParseDocument(const Report& report, FatalErrors& handler, Parse&& parse) {
-    if (!XMLPlatformUtils::fgMemoryManager) {
+    if (!xml_library::IsInitialised()) {
         throw DataSourceUnavailableException(
             report.Failure("Xerces XML error while loading: The XML library is not initialised."));
     }
@@ -112,6 +115,8 @@ DOMDocument* Load(const Report& report, const LoadOptions& options, Parse&& pars
         report.Line("DOMException catched");
         Tell(options, {LoadFault::MALFORMED, Utf8(error.getMessage())});
         throw DataSourceUnavailableException(report.Failure("Xerces DOM error while loading"));
+    } catch (const xercesc::OutOfMemoryException&) { // no std::exception
+        throw std::bad_alloc();
     }
 }
 

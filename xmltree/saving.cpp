@@ -10,12 +10,14 @@
 #include <xercesc/dom/DOMLSSerializer.hpp>
 #include <xercesc/framework/MemBufFormatTarget.hpp>
 #include <xercesc/sax/SAXException.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
 #include <cstdio>
 #include <memory>
+#include <new>
 
 using tessera::DataTargetUnavailableException;
 using xercesc::DOMConfiguration;
@@ -58,6 +60,8 @@ auto Guarded(Save&& save) {
                                              XercesUnstringTemp(error.getMessage()));
     } catch (const xercesc::DOMException&) {
         throw DataTargetUnavailableException("Xerces DOM error while saving");
+    } catch (const xercesc::OutOfMemoryException&) { // no std::exception
+        throw std::bad_alloc();
     }
 }
 
