@@ -8,6 +8,7 @@
 #include <xercesc/dom/DOMImplementation.hpp>
 #include <xercesc/dom/DOMLSOutput.hpp>
 #include <xercesc/dom/DOMLSSerializer.hpp>
+#include <xercesc/dom/DOMLSSerializerFilter.hpp>
 #include <xercesc/framework/MemBufFormatTarget.hpp>
 #include <xercesc/sax/SAXException.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
@@ -15,6 +16,7 @@
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <new>
@@ -32,6 +34,7 @@ using xercesc::XMLUni;
 namespace {
 
 constexpr XMLSize_t INITIAL_CAPACITY = 1023;
+constexpr std::uintptr_t SERIALISER_STACK = std::uintptr_t{512} * 1024; // 4,000 levels
 
 /// Owns what the XML library wants released instead of deleted.
 struct Release {
@@ -71,9 +74,36 @@ void RequireSuccess(bool written) {
     }
 }
 
-Released<DOMLSSerializer> MakeSerializer(bool prettyPrint) {
+/// Leaves out the elements that lie so deep that the serialiser, which calls itself for every level, has used
+/// up its share of the stack. Asked for each element, it costs less than a walk to find the depth.
+class DepthFilter : public xercesc::DOMLSSerializerFilter {
+public:
+    FilterAction acceptNode(const xercesc::DOMNode*) const override {
+        const std::uintptr_t here = Here();
+        const bool isTooDeep = (here < start_ ? start_ - here : here - start_) > SERIALISER_STACK;
+        hasLeftOut_ = hasLeftOut_ || isTooDeep;
+        return isTooDeep ? FILTER_REJECT : FILTER_ACCEPT;
+    }
+    ShowType getWhatToShow() const override { return xercesc::DOMNodeFilter::SHOW_ELEMENT; }
+
+    void RequireWhole() const {
+        if (hasLeftOut_) {
+            throw DataTargetUnavailableException(
+                "Xerces XML error while saving: The document is nested too deep.");
+        }
+    }
+
+private:
+    static std::uintptr_t Here() { return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)); }
+
+    std::uintptr_t start_ = Here();
+    mutable bool hasLeftOut_ = false;
+};
+
+Released<DOMLSSerializer> MakeSerializer(bool prettyPrint, DepthFilter& filter) {
     Released<DOMLSSerializer> serializer(
         DOMImplementation::getImplementation()->createLSSerializer(XMLPlatformUtils::fgMemoryManager));
+    serializer->setFilter(&filter);
     DOMConfiguration* configuration = serializer->getDomConfig();
     if (prettyPrint && configuration->canSetParameter(XMLUni::fgDOMWRTFormatPrettyPrint, true)) {
         configuration->setParameter(XMLUni::fgDOMWRTFormatPrettyPrint, true);
@@ -88,7 +118,8 @@ void XercesTreeOperations::SaveToBinary(std::vector<unsigned char>& data, DOMDoc
                                         bool withBOM, bool applyEncoding) {
     RequireSuccess(document != nullptr);
     Guarded([&] {
-        const Released<DOMLSSerializer> serializer = MakeSerializer(prettyPrint);
+        DepthFilter filter;
+        const Released<DOMLSSerializer> serializer = MakeSerializer(prettyPrint, filter);
         MemBufFormatTarget target(INITIAL_CAPACITY, XMLPlatformUtils::fgMemoryManager);
         const Released<DOMLSOutput> output(
             DOMImplementation::getImplementation()->createLSOutput(XMLPlatformUtils::fgMemoryManager));
@@ -102,6 +133,7 @@ void XercesTreeOperations::SaveToBinary(std::vector<unsigned char>& data, DOMDoc
             CorrectByteOrderAndBOM(data, encoding, bigEndian, withBOM);
         }
         RequireSuccess(written);
+        filter.RequireWhole();
     });
 }
 
@@ -130,10 +162,12 @@ void XercesTreeOperations::SaveDocument(DOMDocument* document, const std::string
 std::string XercesTreeOperations::SaveXml(DOMDocument* document, bool prettyPrint) {
     RequireSuccess(document != nullptr);
     return Guarded([&]() -> std::string {
-        const Released<DOMLSSerializer> serializer = MakeSerializer(prettyPrint);
+        DepthFilter filter;
+        const Released<DOMLSSerializer> serializer = MakeSerializer(prettyPrint, filter);
         const std::unique_ptr<XMLCh, Deallocate> text(
             serializer->writeToString(document, XMLPlatformUtils::fgMemoryManager));
         RequireSuccess(text != nullptr);
+        filter.RequireWhole();
         return XercesUnstringTemp(text.get());
     });
 }

@@ -80,7 +80,26 @@ TEST(Saving, ToAFile) {
     std::remove(path.c_str());
 }
 
+std::string Nested(std::size_t depth) {
+    std::string begin;
+    std::string end;
+    for (std::size_t i = 0; i < depth; ++i) {
+        begin += "<a>";
+        end += "</a>";
+    }
+    return begin + end;
+}
+
+TEST(Saving, DepthsThatNeedLittleStack) {
+    const SampleDocument sample(Nested(1000));
+    const Bytes data = Tree::SaveToBinary(sample.Get(), false);
+    EXPECT_GT(data.size(), Nested(999).size());
+    EXPECT_GT(Tree::SaveXml(sample.Get(), false).size(), Nested(999).size());
+}
+
 TEST(Saving, FailuresLeaveNoFileButTheBytesProduced) {
+    const SampleDocument deep(Nested(10000));
+    const std::string tooDeep = "Xerces XML error while saving: The document is nested too deep.";
     const SampleDocument sample("<tt><!--\xE2\x82\xAC--></tt>"); // Latin-1 cannot write the comment
     const std::string path = testing::TempDir() + "xttml_never_written.xml";
     const std::string nowhere = testing::TempDir() + "xttml_no_such_directory/file.xml";
@@ -95,6 +114,8 @@ TEST(Saving, FailuresLeaveNoFileButTheBytesProduced) {
          "Xerces XML error while saving."},
         {[&] { Tree::SaveToBinary(data, sample.Get(), false, "ISO-8859-1", false, false, true); },
          "Xerces XML error while saving."},
+        {[&] { Tree::SaveDocument(deep.Get(), path, true); }, tooDeep},
+        {[&] { Tree::SaveXml(deep.Get(), false); }, tooDeep},
         {[] { Tree::SaveToBinary(nullptr, false); }, "Xerces XML error while saving."},
         {[] { Tree::SaveXml(nullptr, false); }, "Xerces XML error while saving."},
     };
