@@ -10,15 +10,21 @@
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/framework/XMLErrorCodes.hpp>
 #include <xercesc/sax/SAXException.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLExceptMsgs.hpp>
 #include <xercesc/util/XMLException.hpp>
+#include <xercesc/util/XMLUni.hpp>
 
 #include <new>
 #include <utility>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using tessera::DataSourceUnavailableException;
 using xercesc::DOMDocument;
@@ -120,6 +126,21 @@ DOMDocument* Load(const Report& report, const LoadOptions& options, Parse&& pars
     }
 }
 
+/// Reports a directory as the XML library does once it has opened one, which costs memory each time.
+template <class Parser>
+void RefuseDirectory(Parser& parser, const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode) || access(path.c_str(), R_OK) != 0) {
+        return;
+    }
+    const xercesc::XMLPlatformUtilsException error(__FILE__, __LINE__,
+                                                   xercesc::XMLExcepts::File_CouldNotReadFromFile,
+                                                   XMLPlatformUtils::fgMemoryManager);
+    parser.error(xercesc::XMLErrs::XMLException_Fatal, xercesc::XMLUni::fgXMLErrDomain,
+                 xercesc::XMLErrorReporter::ErrType_Fatal, error.getMessage(), XercesStringTemp(path),
+                 nullptr, 0, 0);
+}
+
 DOMDocument* LoadFromMemory(const void* bytes, std::size_t size, const LoadOptions& options) {
     return Load(SilentLoad{}, options, [bytes, size](auto& parser) {
         xercesc::MemBufInputSource source(static_cast<const XMLByte*>(bytes), size, "String");
@@ -135,7 +156,10 @@ const bool LoadOptions::UNTRUSTED_BY_DEFAULT = XTTML_UNTRUSTED_BY_DEFAULT != 0;
 DOMDocument* XercesTreeOperations::LoadDocument(const std::string& path, const LoadOptions& options) {
     tessera::WriteLoadingLine("XercesTreeOperations::LoadDocument called!");
     tessera::WriteLoadingLine("declare parser OK");
-    return Load(ReportedLoad{path}, options, [&path](auto& parser) { parser.parse(XercesStringTemp(path)); });
+    return Load(ReportedLoad{path}, options, [&path](auto& parser) {
+        RefuseDirectory(parser, path);
+        parser.parse(XercesStringTemp(path));
+    });
 }
 
 DOMDocument* XercesTreeOperations::LoadXml(const std::string& text, const LoadOptions& options) {

@@ -10,10 +10,12 @@ TEST(TrustingXml, ReadsTheFilesThatADocumentNames) {
     const XercesSession session;
     const TemporaryFile secret("secret");
     const FileWatch watch(secret.path);
-    EXPECT_EQ(TextOrRefusal(WithDocumentType("<!ENTITY e SYSTEM '" + secret.path + "'>", "&e;"), TRUSTED), "secret");
+    EXPECT_EQ(TextOrRefusal(WithDocumentType("<!ENTITY e SYSTEM '" + secret.path + "'>", "&e;"), TRUSTED),
+              "secret");
     EXPECT_TRUE(watch.HasBeenOpened());
     const TemporaryFile declarations("<!ENTITY e 'declared elsewhere'>");
-    EXPECT_EQ(TextOrRefusal(WithDocumentType("<!ENTITY % p SYSTEM '" + declarations.path + "'> %p;", "&e;"), TRUSTED),
+    EXPECT_EQ(TextOrRefusal(WithDocumentType("<!ENTITY % p SYSTEM '" + declarations.path + "'> %p;", "&e;"),
+                            TRUSTED),
               "declared elsewhere");
 }
 

@@ -213,6 +213,24 @@ TEST(UntrustedXml, TakesAPathForNothingElse) {
     EXPECT_EQ(FileTextOrRefusal(file.path, output), "content");
 }
 
+// The XML library loses memory when it cannot read what it has opened.
+TEST(Xml, ADirectoryIsNotOpened) {
+    const XercesSession session;
+    std::string path = testing::TempDir() + "xttml_XXXXXX";
+    ASSERT_TRUE(mkdtemp(path.data()));
+    const FileWatch watch(path);
+    for (const bool isUntrusted : {false, true}) {
+        LoadFault fault;
+        std::string output;
+        const std::string outcome = FileTextOrRefusal(path, output, {isUntrusted, &fault});
+        EXPECT_EQ(outcome.rfind(path + ": Xerces SAX error while loading: ", 0), 0U) << outcome;
+        EXPECT_NE(output.find("setDoNamespaces OK\nSAXException catched\n"), std::string::npos);
+        EXPECT_EQ(fault.kind, LoadFault::UNREADABLE);
+    }
+    EXPECT_FALSE(watch.HasBeenOpened());
+    rmdir(path.c_str());
+}
+
 TEST(UntrustedXml, RefusesAsItRefusesMalformedXml) {
     x_ttml_handle parser = nullptr;
     const std::string bomb = EntityBomb(9);

@@ -62,11 +62,12 @@ inline std::string TextOrRefusal(const std::string& document, const LoadOptions&
     return Outcome([&] { return XercesTreeOperations::LoadXml(document, options); });
 }
 
-/// The same of an untrusted file; `output` becomes what the load writes to standard output.
-inline std::string FileTextOrRefusal(const std::string& path, std::string& output) {
+/// The same of a file; `output` becomes what the load writes to standard output.
+inline std::string FileTextOrRefusal(const std::string& path, std::string& output,
+                                     const LoadOptions& options = UNTRUSTED) {
     std::string outcome;
     output = CapturedOutput(
-        [&] { outcome = Outcome([&path] { return XercesTreeOperations::LoadDocument(path, UNTRUSTED); }); });
+        [&] { outcome = Outcome([&] { return XercesTreeOperations::LoadDocument(path, options); }); });
     return outcome;
 }
 
