@@ -34,8 +34,9 @@
  *  8. Threads. Nothing locks. A handle belongs to one thread at a time; different handles share only the XML
  *     library. x_ttml_init_xerces(), x_ttml_uninit_xerces() and x_ttml_load_subtitle_from_file() change its
  *     count of initialisations: call x_ttml_init_xerces() before other threads start, and none of the three
- *     in two threads at a time. Lines of two threads may alternate. A thread must not be cancelled inside the
- *     library.
+ *     in two threads at a time. Lines of two threads may alternate. A thread may be cancelled inside a load
+ *     from memory or a generator, which then unwinds, but not elsewhere in the library: x_ttml_delete_parser()
+ *     would end the process.
  *  9. Trust. Unless a parser distrusts its documents (x_ttml_set_untrusted(), or a library built with
  *     XTTML_UNTRUSTED_XML), a document may have a document type declaration: what that names is read, from
  *     files and from the network, and entities are expanded.

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include <cxxabi.h>
+
 using ttaf1_dfxp::tt::Cttaf1_dfxp;
 
 namespace {
@@ -53,6 +55,8 @@ bool TtmlParser::fgLoadDocument(const void* data, unsigned int size) {
     } catch (const tessera::DataSourceUnavailableException& exception) {
         vRememberException();
         tessera::WriteLine(exception.message());
+    } catch (const abi::__forced_unwind&) { // a cancelled thread unwinds through here and must not be stopped
+        throw;
     } catch (...) {
         vRememberException();
         tessera::WriteLine("Unknown Exception Occured!");

@@ -6,6 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdlib>
+
+#include <pthread.h>
+#include <sys/wait.h>
 
 namespace {
 
@@ -66,6 +70,40 @@ TEST(BrokenPipe, ChangesNothingForAPlayerThatIgnoresTheSignal) {
     close(ends[1]);
     std::signal(SIGPIPE, previous);
     EXPECT_TRUE(plays);
+}
+
+/// Loads a document in a thread that is to end at the first line which it writes.
+void* LoadCancelled(void* parser) {
+    pthread_cancel(pthread_self());
+    x_ttml_load_subtitle_from_data(parser, DOCUMENT, sizeof DOCUMENT - 1);
+    return nullptr;
+}
+
+/// Whether a thread can be cancelled while it loads, and the parser used by another one.
+bool SurvivesACancelledLoad() {
+    const RedirectedOutput silence("/dev/null");
+    std::setvbuf(stdout, nullptr, _IONBF, 0); // each line is written at once
+    x_ttml_handle parser = nullptr;
+    x_ttml_init_xerces();
+    x_ttml_create_new_parser(&parser);
+    pthread_t thread{};
+    void* result = nullptr;
+    const bool isCancelled = pthread_create(&thread, nullptr, LoadCancelled, parser) == 0 &&
+                             pthread_join(thread, &result) == 0 && result == PTHREAD_CANCELED;
+    x_ttml_destory_doc(parser);
+    const bool plays = x_ttml_load_subtitle_from_data(parser, DOCUMENT, sizeof DOCUMENT - 1) == X_TTML_OK;
+    x_ttml_destory_doc(parser);
+    x_ttml_delete_parser(parser);
+    return isCancelled && plays;
+}
+
+TEST(CancelledThread, EndsInsideALoad) {
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(SurvivesACancelledLoad() ? EXIT_SUCCESS : EXIT_FAILURE);
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS) << status;
 }
 
 } // namespace
