@@ -88,6 +88,10 @@ TEST(Loading, FromMemoryReadsWhatTheXmlLibraryReads) {
         "<tt><![CDATA[a]]><p/><![CDATA[b]]>c</tt>",
         "<tt>" + std::string((1 << 20) + 1, 'a') + "<p/></tt>",
         "<tt a='1' xmlns:b='u' xmlns:c='u' b:d='1' c:d='2'/>",
+        "<a:tt xmlns:a='urn:a' a:b='1'><a:p b='2' a:b='3'/><a:p xmlns:a='urn:c' a:b='4' a='5'/><a:p "
+        "a:b=''/></a:tt>",
+        "<tt><p a='' b='' c='' d='' e='' f='' g='' h='' i='' j='' k='' l='' m='' n='' o='' p='' q='' r=''/>"
+        "<p r='' q='' a='' b=''/></tt>",
         "<tt a='<p>' a=''/>",
         "<tt a='1'b='2'/>",
         "<tt>&unknown;</tt>",
