@@ -1,0 +1,207 @@
+#include "render/scene_reader.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace xttml::render {
+
+namespace {
+
+constexpr std::size_t mostItems = 500;
+constexpr std::size_t mostText = std::size_t{32} << 10; // bytes
+constexpr std::size_t costOfRun = 16;                   // as so many bytes of text
+constexpr double mostArea = 32;                         // times the target's
+
+constexpr double usualLinesOfRoot = 15;  // the font size that nobody gave
+constexpr double smallestFont = 1;       // px
+constexpr double largestPictureBox = 64; // times the root: beyond, a single pixel of it fills the screen
+
+bool ReadStyling(const DisplayItem* item, int (*read)(const DisplayItem*, x_ttml_styling*),
+                 x_ttml_styling& styling) {
+    styling.size = sizeof styling;
+    return read(item, &styling) != 0;
+}
+
+Color ColorOf(const x_ttml_color& color) {
+    return {color.red, color.green, color.blue, color.alpha};
+}
+
+/// What is no colour counts as white, which is right for letters; behind them it would hide the picture.
+Color BackgroundOf(const x_ttml_styling& styling) {
+    constexpr std::string_view beginningsOfWhite = "#rw";
+    const x_ttml_color& color = styling.background_color;
+    const bool isWhite = std::min({color.red, color.green, color.blue, color.alpha}) == 255;
+    const char first = *styling.background_color_text;
+    if (isWhite && (first == '\0' || beginningsOfWhite.find(first) == std::string_view::npos))
+        return {};
+    return ColorOf(color);
+}
+
+/// A line feed as LINE SEPARATOR (TTML 1.0, 7.1.7): it ends a line and not the paragraph, whose direction
+/// goes for all lines.
+std::string Separated(const std::string& text) {
+    std::string separated;
+    for (const char character : text)
+        separated += character == '\n' ? "\xE2\x80\xA8" : std::string(1, character);
+    return separated;
+}
+
+double OrElse(double value, double fallback) {
+    return value > 0 ? value : fallback;
+}
+
+} // namespace
+
+void SceneReader::Read(const DisplayItem* const* items, std::size_t count) {
+    for (itemNumber_ = 0; itemNumber_ < count; ++itemNumber_) {
+        if (itemNumber_ == mostItems) {
+            Leave("more items than are drawn at one time");
+            return;
+        }
+        if (items[itemNumber_])
+            ReadItem(items[itemNumber_]);
+    }
+}
+
+void SceneReader::ReadItem(const DisplayItem* item) {
+    x_ttml_styling styling;
+    if (!ReadStyling(item, x_ttml_item_get_styling, styling))
+        return;
+    if (x_ttml_item_get_kind(item) == X_TTML_IMAGE_ITEM)
+        ReadImage(item, styling);
+    else
+        ReadText(item, styling);
+}
+
+void SceneReader::ReadText(const DisplayItem* item, const x_ttml_styling& styling) {
+    x_ttml_styling region;
+    const bool hasRegion = ReadStyling(item, x_ttml_item_get_region_styling, region);
+    if (hasRegion && !region.is_hidden)
+        ReadRegionBackground(region);
+    const Box area = AreaOf(styling);
+    if (area.IsEmpty())
+        return Leave("its area is empty or outside the root container");
+    if (!SpendText(item))
+        return Leave("more text than is drawn at one time");
+    Paragraph paragraph = ReadParagraph(item, styling, hasRegion ? &region : nullptr);
+    if (!paragraph.text.empty())
+        BlockAt(area, styling.display_align).paragraphs.push_back(std::move(paragraph));
+}
+
+void SceneReader::ReadRegionBackground(const x_ttml_styling& region) {
+    const Fill fill = {AreaOf(region), BackgroundOf(region)};
+    if (fill.color.alpha == 0 || fill.area.IsEmpty() ||
+        std::find(scene.begin(), scene.end(), Layer(fill)) != scene.end())
+        return;
+    if (SpendArea(fill.area))
+        scene.emplace_back(fill);
+    else
+        Leave("more backgrounds and pictures than are drawn at one time");
+}
+
+void SceneReader::ReadImage(const DisplayItem* item, const x_ttml_styling& styling) {
+    if (styling.is_hidden)
+        return;
+    std::uint32_t size = 0;
+    const std::uint8_t* const file = x_ttml_item_get_image(item, &size);
+    std::shared_ptr<const Picture> picture = pictures_.Find(file, size);
+    if (!picture->surface)
+        return Leave(picture->fault);
+    const Box box = PictureBox(styling, *picture);
+    const Box area = Intersection(box, mapping_.RootArea());
+    if (area.IsEmpty())
+        return Leave("its area is empty or outside the root container");
+    if (!SpendArea(area))
+        return Leave("more backgrounds and pictures than are drawn at one time");
+    scene.emplace_back(PlacedPicture{box, area, std::move(picture)});
+}
+
+Paragraph SceneReader::ReadParagraph(const DisplayItem* item, const x_ttml_styling& styling,
+                                     const x_ttml_styling* region) const {
+    Paragraph paragraph;
+    paragraph.look = ReadLook(styling, region);
+    paragraph.textAlign = styling.text_align;
+    std::uint32_t run = 0;
+    for (const TextPiece& piece : ReadPieces(item, whiteSpace_)) {
+        x_ttml_styling own = styling;
+        x_ttml_run_get_styling(item, run++, &own);
+        paragraph.text += Separated(piece.text);
+        paragraph.pieces.push_back({paragraph.text.size(), ReadLook(own, region)});
+    }
+    return paragraph;
+}
+
+Look SceneReader::ReadLook(const x_ttml_styling& styling, const x_ttml_styling* region) const {
+    const double scale = mapping_.Scale();
+    const double largestFont = std::max(smallestFont, mapping_.RootHeight() * scale);
+    const double fontSize = OrElse(styling.font_size, mapping_.RootHeight() / usualLinesOfRoot) * scale;
+    Look look;
+    look.fontSize = std::clamp(fontSize, smallestFont, largestFont);
+    look.lineHeight = std::min(styling.line_height * scale, largestFont);
+    look.isBold = styling.is_bold;
+    look.isItalic = styling.is_italic;
+    look.isHidden = styling.is_hidden;
+    look.decoration = styling.text_decoration;
+    look.color = ColorOf(styling.color);
+    if (!region || std::string_view(styling.background_color_text) != region->background_color_text)
+        look.background = BackgroundOf(styling);
+    return look;
+}
+
+TextBlock& SceneReader::BlockAt(const Box& area, std::int32_t displayAlign) {
+    for (Layer& layer : scene) {
+        auto* const block = std::get_if<TextBlock>(&layer);
+        if (block && block->area == area && block->displayAlign == displayAlign)
+            return *block;
+    }
+    return std::get<TextBlock>(scene.emplace_back(TextBlock{area, displayAlign, {}}));
+}
+
+Box SceneReader::AreaOf(const x_ttml_styling& styling) const {
+    const double left = styling.origin_x;
+    const double top = styling.origin_y;
+    return Intersection(mapping_.ToTarget(left, top,
+                                          OrElse(styling.extent_width, mapping_.RootWidth() - left),
+                                          OrElse(styling.extent_height, mapping_.RootHeight() - top)),
+                        mapping_.RootArea());
+}
+
+Box SceneReader::PictureBox(const x_ttml_styling& styling, const Picture& picture) const {
+    double width = styling.extent_width;
+    double height = styling.extent_height;
+    if (width <= 0)
+        width = height > 0 ? height * picture.width / picture.height : picture.width;
+    if (height <= 0)
+        height = width * picture.height / picture.width;
+    return mapping_.ToTarget(styling.origin_x, styling.origin_y,
+                             std::min(width, largestPictureBox * mapping_.RootWidth()),
+                             std::min(height, largestPictureBox * mapping_.RootHeight()));
+}
+
+/// Stops counting, and reading, as soon as there is too much.
+bool SceneReader::SpendText(const DisplayItem* item) {
+    const std::uint32_t runs = x_ttml_item_get_run_count(item);
+    std::size_t cost = textSpent_;
+    for (std::uint32_t run = 0; run < runs && cost <= mostText; ++run)
+        cost += costOfRun + x_ttml_run_get_text(item, run, nullptr, 0);
+    if (cost > mostText)
+        return false;
+    textSpent_ = cost;
+    return true;
+}
+
+bool SceneReader::SpendArea(const Box& area) {
+    const Box& target = mapping_.TargetArea();
+    const double cost = areaSpent_ + area.Width() * area.Height();
+    if (cost > mostArea * target.Width() * target.Height())
+        return false;
+    areaSpent_ = cost;
+    return true;
+}
+
+void SceneReader::Leave(std::string reason) {
+    remarks.push_back({itemNumber_, std::move(reason)});
+}
+
+} // namespace xttml::render

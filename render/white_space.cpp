@@ -1,0 +1,73 @@
+#include "render/white_space.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace xttml::render {
+
+namespace {
+
+bool IsWhiteSpace(char character) {
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
+
+/// Copies the text of a line piece by piece. A space waits, in the piece where it was met, for something to
+/// stand before; the line's beginning and end have nothing to offer.
+class Collapser {
+public:
+    void Piece(TextPiece& piece) {
+        const std::string text = std::exchange(piece.text, {});
+        for (const char character : text) {
+            if (!IsWhiteSpace(character))
+                Character(piece.text, character);
+            else if (isInsideLine_ && !spaceOwner_)
+                spaceOwner_ = &piece.text;
+        }
+    }
+    void LineBreak() { *this = Collapser(); }
+
+private:
+    void Character(std::string& text, char character) {
+        if (std::string* const owner = std::exchange(spaceOwner_, nullptr))
+            owner->push_back(' ');
+        text.push_back(character);
+        isInsideLine_ = true;
+    }
+
+    std::string* spaceOwner_ = nullptr; // of a space that waits
+    bool isInsideLine_ = false;
+};
+
+TextPiece ReadPiece(const DisplayItem* item, std::uint32_t run) {
+    TextPiece piece;
+    piece.text.resize(x_ttml_run_get_text(item, run, nullptr, 0));
+    x_ttml_run_get_text(item, run, piece.text.data(), piece.text.size() + 1);
+    piece.isLineBreak = x_ttml_run_is_line_break(item, run) != 0;
+    return piece;
+}
+
+} // namespace
+
+void HandleWhiteSpace(std::vector<TextPiece>& pieces, WhiteSpace whiteSpace) {
+    if (whiteSpace == WhiteSpace::PRESERVED)
+        return;
+    Collapser collapser;
+    for (TextPiece& piece : pieces) {
+        if (piece.isLineBreak)
+            collapser.LineBreak();
+        else
+            collapser.Piece(piece);
+    }
+}
+
+std::vector<TextPiece> ReadPieces(const DisplayItem* item, WhiteSpace whiteSpace) {
+    const std::uint32_t count = x_ttml_item_get_run_count(item);
+    std::vector<TextPiece> pieces;
+    pieces.reserve(count);
+    for (std::uint32_t run = 0; run < count; ++run)
+        pieces.push_back(ReadPiece(item, run));
+    HandleWhiteSpace(pieces, whiteSpace);
+    return pieces;
+}
+
+} // namespace xttml::render
