@@ -91,7 +91,7 @@ std::shared_ptr<const Picture> PictureCache::Find(const std::uint8_t* file, std:
         return found->picture;
     }
     auto picture = std::make_shared<const Picture>(DecodePicture(file, size));
-    if (size <= largestCache)
+    if (size <= limit_)
         Keep({std::vector<std::uint8_t>(file, file + size), picture});
     return picture;
 }
@@ -99,9 +99,9 @@ std::shared_ptr<const Picture> PictureCache::Find(const std::uint8_t* file, std:
 void PictureCache::Keep(Entry entry) {
     entries_.push_front(std::move(entry));
     std::uint64_t bytes = 0;
-    const auto tooMany = std::find_if(entries_.begin(), entries_.end(), [&bytes](const Entry& kept) {
+    const auto tooMany = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& kept) {
         bytes += kept.Bytes();
-        return bytes > largestCache;
+        return bytes > limit_;
     });
     entries_.erase(tooMany, entries_.end());
 }

@@ -24,7 +24,7 @@ struct Picture {
 /// The memory that one decoded picture may take, in bytes: a frame of 4096 x 2304 at 4 bytes a pixel.
 inline constexpr std::uint64_t largestPicture = std::uint64_t{4096} * 2304 * 4;
 
-/// The memory that all decoded pictures of a cache and their files may take, in bytes.
+/// The memory that the decoded pictures of a cache and their files take at most, in bytes; no file is larger.
 inline constexpr std::uint64_t largestCache = std::uint64_t{64} << 20;
 
 /// Decodes a PNG file. Its size is looked at before any memory is taken for it.
@@ -36,6 +36,9 @@ Picture DecodePicture(const std::uint8_t* file, std::size_t size);
 /// long a file stays in memory.
 class PictureCache {
 public:
+    /// @param limit the memory that the pictures and their files may take, in bytes
+    explicit PictureCache(std::uint64_t limit = largestCache) : limit_(limit) {}
+
     /// A file's picture, decoded unless the cache holds it.
     /// @param file read during the call only; may be null when `size` is 0
     /// @param size bytes
@@ -50,6 +53,7 @@ private:
     };
     void Keep(Entry entry);
 
+    std::uint64_t limit_;
     std::list<Entry> entries_; // used last: first
 };
 

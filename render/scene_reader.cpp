@@ -9,7 +9,7 @@ namespace xttml::render {
 namespace {
 
 constexpr std::size_t mostItems = 500;
-constexpr std::size_t mostText = std::size_t{32} << 10; // bytes
+constexpr std::size_t mostText = std::size_t{16} << 10; // bytes
 constexpr std::size_t costOfRun = 16;                   // as so many bytes of text
 constexpr double mostArea = 32;                         // times the target's
 

@@ -12,8 +12,6 @@ public:
     AttributeAdder(PangoAttrList* attributes, std::size_t begin, std::size_t end)
         : attributes_(attributes), begin_(static_cast<guint>(begin)), end_(static_cast<guint>(end)) {}
 
-    /// Equal neighbours become one, so that letters are shaped across a border where only the colour changes.
-    void Join(PangoAttribute* attribute) const { pango_attr_list_change(attributes_, InRange(attribute)); }
     void Add(PangoAttribute* attribute) const { pango_attr_list_insert(attributes_, InRange(attribute)); }
 
 private:
@@ -38,11 +36,11 @@ Attributes AttributesOf(const Paragraph& paragraph) {
     guint16 number = 0;
     for (const StyledPiece& piece : paragraph.pieces) {
         const AttributeAdder adder(attributes.get(), begin, piece.end);
-        adder.Join(pango_attr_size_new_absolute(PangoSize(piece.look)));
-        adder.Join(pango_attr_weight_new(piece.look.isBold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL));
-        adder.Join(pango_attr_style_new(piece.look.isItalic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL));
-        adder.Add(
-            pango_attr_foreground_new(number++, 0, 0)); // never seen: it ends a run where the piece ends
+        adder.Add(pango_attr_size_new_absolute(PangoSize(piece.look)));
+        adder.Add(pango_attr_weight_new(piece.look.isBold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL));
+        adder.Add(pango_attr_style_new(piece.look.isItalic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL));
+        adder.Add(pango_attr_insert_hyphens_new(FALSE));
+        adder.Add(pango_attr_foreground_new(number++, 0, 0)); // unused: no run goes on where it changes
         begin = piece.end;
     }
     return attributes;
