@@ -22,9 +22,9 @@
 //  - The direction of a paragraph is that of its first strong character (Unicode UAX #9, P2 and P3).
 //  - What overflows an area is clipped.
 //
-// Memory and time are bounded: of the items of one moment no more than 500 are drawn, with no more than 32
-// KiB of text and with pictures and backgrounds of no more than 32 times the target's area; a picture of more
-// than 36 MiB is left out. Whatever is left out has a remark.
+// Memory and time are bounded: of the items of one moment no more than 500 are drawn, with no more than 16 KiB
+// of text and with pictures, backgrounds and letters of no more than 32 times the target's area; a picture of
+// more than 36 MiB is left out. Whatever is left out has a remark.
 //
 // Memory that runs out ends in std::bad_alloc, or GLib, which Pango is built on, ends the process. A renderer
 // belongs to one thread at a time; different ones share nothing.

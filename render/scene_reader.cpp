@@ -17,6 +17,9 @@ constexpr double usualLinesOfRoot = 15;  // the font size that nobody gave
 constexpr double smallestFont = 1;       // px
 constexpr double largestPictureBox = 64; // times the root: beyond, a single pixel of it fills the screen
 
+constexpr char outOfSight[] = "its area is empty or outside the root container";
+constexpr char tooLarge[] = "larger pictures, backgrounds and letters than are drawn at one time";
+
 bool ReadStyling(const DisplayItem* item, int (*read)(const DisplayItem*, x_ttml_styling*),
                  x_ttml_styling& styling) {
     styling.size = sizeof styling;
@@ -45,6 +48,18 @@ std::string Separated(const std::string& text) {
     for (const char character : text)
         separated += character == '\n' ? "\xE2\x80\xA8" : std::string(1, character);
     return separated;
+}
+
+/// About how many px its letters cover, were they all in sight.
+double AreaOfLetters(const Paragraph& paragraph) {
+    double area = 0;
+    std::size_t begin = 0;
+    for (const StyledPiece& piece : paragraph.pieces) {
+        const auto length = static_cast<double>(piece.end - begin);
+        area += length * piece.look.fontSize * piece.look.fontSize;
+        begin = piece.end;
+    }
+    return area;
 }
 
 double OrElse(double value, double fallback) {
@@ -81,12 +96,15 @@ void SceneReader::ReadText(const DisplayItem* item, const x_ttml_styling& stylin
         ReadRegionBackground(region);
     const Box area = AreaOf(styling);
     if (area.IsEmpty())
-        return Leave("its area is empty or outside the root container");
+        return Leave(outOfSight);
     if (!SpendText(item))
         return Leave("more text than is drawn at one time");
     Paragraph paragraph = ReadParagraph(item, styling, hasRegion ? &region : nullptr);
-    if (!paragraph.text.empty())
-        BlockAt(area, styling.display_align).paragraphs.push_back(std::move(paragraph));
+    if (paragraph.text.empty())
+        return;
+    if (!SpendArea(std::min(area.Width() * area.Height(), AreaOfLetters(paragraph))))
+        return Leave(tooLarge);
+    BlockAt(area, styling.display_align).paragraphs.push_back(std::move(paragraph));
 }
 
 void SceneReader::ReadRegionBackground(const x_ttml_styling& region) {
@@ -94,10 +112,10 @@ void SceneReader::ReadRegionBackground(const x_ttml_styling& region) {
     if (fill.color.alpha == 0 || fill.area.IsEmpty() ||
         std::find(scene.begin(), scene.end(), Layer(fill)) != scene.end())
         return;
-    if (SpendArea(fill.area))
+    if (SpendArea(fill.area.Width() * fill.area.Height()))
         scene.emplace_back(fill);
     else
-        Leave("more backgrounds and pictures than are drawn at one time");
+        Leave(tooLarge);
 }
 
 void SceneReader::ReadImage(const DisplayItem* item, const x_ttml_styling& styling) {
@@ -111,9 +129,9 @@ void SceneReader::ReadImage(const DisplayItem* item, const x_ttml_styling& styli
     const Box box = PictureBox(styling, *picture);
     const Box area = Intersection(box, mapping_.RootArea());
     if (area.IsEmpty())
-        return Leave("its area is empty or outside the root container");
-    if (!SpendArea(area))
-        return Leave("more backgrounds and pictures than are drawn at one time");
+        return Leave(outOfSight);
+    if (!SpendArea(area.Width() * area.Height()))
+        return Leave(tooLarge);
     scene.emplace_back(PlacedPicture{box, area, std::move(picture)});
 }
 
@@ -191,12 +209,11 @@ bool SceneReader::SpendText(const DisplayItem* item) {
     return true;
 }
 
-bool SceneReader::SpendArea(const Box& area) {
+bool SceneReader::SpendArea(double area) {
     const Box& target = mapping_.TargetArea();
-    const double cost = areaSpent_ + area.Width() * area.Height();
-    if (cost > mostArea * target.Width() * target.Height())
+    if (areaSpent_ + area > mostArea * target.Width() * target.Height())
         return false;
-    areaSpent_ = cost;
+    areaSpent_ += area;
     return true;
 }
 

@@ -40,7 +40,7 @@ private:
     Box AreaOf(const x_ttml_styling& styling) const;
     Box PictureBox(const x_ttml_styling& styling, const Picture& picture) const;
     bool SpendText(const DisplayItem* item);
-    bool SpendArea(const Box& area);
+    bool SpendArea(double area);
     void Leave(std::string reason);
 
     const RootMapping& mapping_;

@@ -40,6 +40,28 @@ Stroke StrokeOf(const PangoGlyphItem& run, const Reach& font, std::int32_t decor
     }
 }
 
+/// Cairo keeps the masks of letters, however large; above this size, in px, they are filled as shapes
+/// instead.
+constexpr double largestKeptLetter = 100;
+
+/// What has no shape is a picture, like an emoji, or blank.
+bool FillShapes(cairo_t* target, const PangoGlyphItem& run) {
+    pango_cairo_glyph_string_path(target, run.item->analysis.font, run.glyphs);
+    Box box;
+    cairo_path_extents(target, &box.left, &box.top, &box.right, &box.bottom);
+    cairo_fill(target);
+    return !box.IsEmpty();
+}
+
+void PaintGlyphs(cairo_t* target, const PangoGlyphItem& run, const Look& look, double left, double baseline) {
+    SetColor(target, look.color);
+    cairo_move_to(target, left, baseline);
+    if (look.fontSize > largestKeptLetter && FillShapes(target, run))
+        return;
+    cairo_move_to(target, left, baseline);
+    pango_cairo_show_glyph_string(target, run.item->analysis.font, run.glyphs);
+}
+
 } // namespace
 
 TextLines::TextLines(PangoContext* context, const Paragraph& paragraph, double width)
@@ -140,9 +162,7 @@ void TextLines::PaintText(cairo_t* target) const {
         VisitRuns(line, [&](const PangoGlyphItem& run, const Look& look, const Box& box, const Reach& font) {
             if (look.isHidden || look.color.alpha == 0)
                 return;
-            SetColor(target, look.color);
-            cairo_move_to(target, box.left, line.baseline);
-            pango_cairo_show_glyph_string(target, run.item->analysis.font, run.glyphs);
+            PaintGlyphs(target, run, look, box.left, line.baseline);
             const Stroke stroke = StrokeOf(run, font, look.decoration);
             cairo_rectangle(target, box.left, line.baseline - stroke.top, box.Width(), stroke.thickness);
             cairo_fill(target);
