@@ -57,11 +57,12 @@ install_packages() {
 }
 
 install_build_packages() {
-    install_packages g++=g++ cmake=cmake ninja-build=ninja libxerces-c-dev libcli11-dev nlohmann-json3-dev libfmt-dev
+    install_packages g++=g++ cmake=cmake ninja-build=ninja libxerces-c-dev libcli11-dev nlohmann-json3-dev libfmt-dev \
+        libpango1.0-dev pkg-config=pkg-config
 }
 
 install_test_packages() {
-    install_packages libgtest-dev python3=python3 pkg-config=pkg-config
+    install_packages libgtest-dev python3=python3 pkg-config=pkg-config fonts-dejavu-core
 }
 
 clang_sanitizes() {
