@@ -14,20 +14,20 @@
 //  is
 //    what a document that says nothing has, reaches to the root's edge; a picture has its own then.
 //  - Paragraphs with the same area and tts:displayAlign stand one below the other, in the order of the items.
-//  - A region's background fills its box, that of a text the place of its lines. A text whose background is
-//    written as its region's has taken it over from there and is painted without.
+//  - A region's background fills its box, that of a text the place of its lines. A text without a style whose
+//    background is written as its region's has taken it over from there and is painted without.
 //  - A font size of 0 is a fifteenth of the root's height. Letters are at least 1 px and at most as high as
 //  the
 //    root. A line height of 0 is the font's own.
 //  - The direction of a paragraph is that of its first strong character (Unicode UAX #9, P2 and P3).
 //  - What overflows an area is clipped.
 //
-// Memory and time are bounded: of the items of one moment no more than 500 are drawn, with no more than 16 KiB
-// of text and with pictures, backgrounds and letters of no more than 32 times the target's area; a picture of
-// more than 36 MiB is left out. Whatever is left out has a remark.
+// Memory and time are bounded: of the items of one moment no more than 500 are drawn, with no more than 16
+// KiB of text and with pictures, backgrounds and letters of no more than 32 times the target's area; a
+// picture of more than 36 MiB is left out. Whatever is left out has a remark.
 //
 // Memory that runs out ends in std::bad_alloc, or GLib, which Pango is built on, ends the process. A renderer
-// belongs to one thread at a time; different ones share nothing.
+// belongs to one thread at a time; different ones may be in different threads.
 #ifndef XTTML_RENDER_RENDERER_H
 #define XTTML_RENDER_RENDERER_H
 

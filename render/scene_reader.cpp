@@ -99,7 +99,9 @@ void SceneReader::ReadText(const DisplayItem* item, const x_ttml_styling& stylin
         return Leave(outOfSight);
     if (!SpendText(item))
         return Leave("more text than is drawn at one time");
-    Paragraph paragraph = ReadParagraph(item, styling, hasRegion ? &region : nullptr);
+    x_ttml_styling style; // without one, an item begins as a copy of its region, the background included
+    const bool isCopy = hasRegion && !ReadStyling(item, x_ttml_item_get_style_styling, style);
+    Paragraph paragraph = ReadParagraph(item, styling, isCopy ? &region : nullptr);
     if (paragraph.text.empty())
         return;
     if (!SpendArea(std::min(area.Width() * area.Height(), AreaOfLetters(paragraph))))

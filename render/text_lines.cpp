@@ -4,10 +4,15 @@
 #include "render/text_layout.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace xttml::render {
 
 namespace {
+
+/// Below zero as well: what stands in a low line may end above its baseline.
+constexpr Reach nothing = {-std::numeric_limits<double>::infinity(),
+                           -std::numeric_limits<double>::infinity()};
 
 Reach FromPango(const PangoRectangle& logical) {
     return {pango_units_to_double(PANGO_ASCENT(logical)), pango_units_to_double(PANGO_DESCENT(logical))};
@@ -79,7 +84,7 @@ TextLines::TextLines(PangoContext* context, const Paragraph& paragraph, double w
 TextLines::Line TextLines::MeasureLine(PangoLayoutLine* layoutLine) const {
     PangoRectangle logical;
     pango_layout_line_get_extents(layoutLine, nullptr, &logical);
-    Line line = {layoutLine, pango_units_to_double(logical.width), {}, FromPango(logical)};
+    Line line = {layoutLine, pango_units_to_double(logical.width), nothing, FromPango(logical)};
     VisitRuns(line, [&](const PangoGlyphItem&, const Look& look, const Box&, const Reach& font) {
         line.reach = Around(line.reach, ReachOf(font, look));
     });

@@ -8,6 +8,8 @@ namespace xttml::render {
 
 namespace {
 
+constexpr std::size_t longestLanguage = 35; // RFC 5646, 4.4.1; Pango keeps every language it meets for ever
+
 /// Which part of the free room stands above the lines.
 double ShareAbove(std::int32_t displayAlign) {
     switch (displayAlign) {
@@ -38,7 +40,7 @@ TextPainter::TextPainter(const std::string& fontFamily, const std::string& langu
     const FontDescription font(pango_font_description_new());
     pango_font_description_set_family(font.get(), fontFamily.c_str());
     pango_context_set_font_description(context_.get(), font.get());
-    if (!language.empty())
+    if (!language.empty() && language.size() <= longestLanguage)
         pango_context_set_language(context_.get(), pango_language_from_string(language.c_str()));
     // A line is as long at every size, relative to it, and grey edges suit any background.
     const FontOptions options(cairo_font_options_create());

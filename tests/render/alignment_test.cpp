@@ -58,8 +58,7 @@ TEST(DisplayAlign, PlacesTheLines) {
 
 TEST(Lines, StayInsideTheRegion) {
     const char* const texts[] = {
-        "Much more text than the region can ever hold, with words like incomprehensibilities and "
-        "gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy gjpqy",
+        "Much more text than the region can ever hold, gjpqy gjpqy gjpqy gjpqy incomprehensibilities",
         "Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamtengesellschaft",
         "字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕字幕",
     };
@@ -80,13 +79,15 @@ TEST(Lines, NarrowOnesDoNotCutTheLastDescender) {
 }
 
 TEST(Lines, StandAsFarApartAsTheLineHeightSays) {
-    const Screenshot shot = ShootParagraph("tts:lineHeight='60px'", "HH<br/>HH");
-    const Box ink = shot.Around(IsInk);
-    for (int y = 20; y < 80; ++y) {
-        for (int x = 40; x < 280; ++x)
-            ASSERT_EQ(shot.At(x, y).alpha, shot.At(x, y + 60).alpha) << x << ", " << y;
+    for (const int height : {60, 12}) {
+        const Screenshot shot =
+            ShootParagraph("tts:lineHeight='" + std::to_string(height) + "px'", "xx<br/>xx");
+        const int top = static_cast<int>(shot.Around(IsInk).top);
+        for (int y = top; y < top + height; ++y) {
+            for (int x = 40; x < 280; ++x)
+                ASSERT_EQ(shot.At(x, y).alpha, shot.At(x, y + height).alpha) << x << ", " << y;
+        }
     }
-    EXPECT_GT(ink.Height(), 60);
 }
 
 TEST(Items, OfOneRegionStandOneBelowTheOther) {

@@ -16,6 +16,7 @@ TEST(Font, ASizeThatIsNotGivenIsAFifteenthOfTheRoot) {
             Player(Document("", "<div><p begin='0s' end='9s' " + attributes + ">Hamburg</p></div>")));
     };
     EXPECT_EQ(shoot(""), shoot("tts:fontSize='12px'"));
+    EXPECT_EQ(shoot(""), shoot("tts:fontSize='0px'"));
     EXPECT_FALSE(shoot("") == shoot("tts:fontSize='13px'"));
 }
 
