@@ -1,4 +1,4 @@
-"""README's programs, from C++ and from C, on a good document and on bad ones. Usage: readme_test.py CPP C"""
+"""README's programs, from C++ and from C, on a good document and on bad ones. Usage: readme_test.py CPP C [EMULATOR...]"""
 
 import pathlib
 import subprocess
@@ -18,6 +18,7 @@ PROGRAMS = {
     sys.argv[1]: "1000 to 2000 ms, 1024 x 768 px: 200000 UTF-16 units in #FFFFFFFF\n",
     sys.argv[2]: f"1000 ms: 1 on screen\n  {('text' * 64)[:255]}\n",
 }
+EMULATOR = sys.argv[3:]
 
 
 class Readme(unittest.TestCase):
@@ -29,7 +30,7 @@ class Readme(unittest.TestCase):
                     path.write_text(document)
                 for program, line in PROGRAMS.items():
                     with self.subTest(program=program, document=name):
-                        done = subprocess.run([program, path], capture_output=True, text=True, check=False)
+                        done = subprocess.run([*EMULATOR, program, path], capture_output=True, text=True, check=False)
                         good = name == "good"
                         self.assertEqual(done.returncode, 0 if good else 1, done.stderr)
                         self.assertEqual(done.stderr.count("\n"), 0 if good else 1, done.stderr)
