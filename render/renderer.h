@@ -9,16 +9,14 @@
 // Items are read with the functions of x_ttml_items.h and nothing else. What they ask for:
 //
 //  - The root container is scaled into the target as large as its proportions allow; bars beside it stay
-//  free.
+//    free.
 //  - An item's area is that of its styling, as far as it lies inside the root. A width or height of 0, which
-//  is
-//    what a document that says nothing has, reaches to the root's edge; a picture has its own then.
+//    is what a document that says nothing has, reaches to the root's edge; a picture has its own then.
 //  - Paragraphs with the same area and tts:displayAlign stand one below the other, in the order of the items.
-//  - A region's background fills its box, that of a text the place of its lines. A text without a style whose
-//    background is written as its region's has taken it over from there and is painted without.
+//  - A region's background fills its box, that of a text the place of its lines. A text whose background is
+//    written as its region's has taken it over from there and is painted without.
 //  - A font size of 0 is a fifteenth of the root's height. Letters are at least 1 px and at most as high as
-//  the
-//    root. A line height of 0 is the font's own.
+//    the root. A line height of 0 is the font's own.
 //  - The direction of a paragraph is that of its first strong character (Unicode UAX #9, P2 and P3).
 //  - What overflows an area is clipped.
 //

@@ -20,8 +20,6 @@ namespace {
 using Bytes = std::vector<unsigned char>;
 using Text = std::basic_string<XMLCh>;
 
-constexpr std::size_t deepestElement = 10000; // the XML library writes nested elements by recursion
-
 bool IsKnown(const std::string& encoding) {
     constexpr XMLSize_t anySize = 1024;
     xercesc::XMLTransService::Codes status{};
@@ -38,24 +36,19 @@ public:
     explicit TreeWalk(const DOMNode* root) : root_(root), node_(root) {}
 
     const DOMNode* Node() const { return node_; }
-    std::size_t Depth() const { return depth_; }
     void Next() {
         if (const DOMNode* const child = node_->getFirstChild()) {
             node_ = child;
-            ++depth_;
             return;
         }
-        while (node_ != root_ && !node_->getNextSibling()) {
+        while (node_ != root_ && !node_->getNextSibling())
             node_ = node_->getParentNode();
-            --depth_;
-        }
         node_ = node_ == root_ ? nullptr : node_->getNextSibling();
     }
 
 private:
     const DOMNode* root_;
     const DOMNode* node_;
-    std::size_t depth_ = 0;
 };
 
 void AppendWords(const XMLCh* text, Text& target) {
@@ -81,13 +74,11 @@ void AppendAttributes(const DOMNode& element, Text& target) {
         AppendWords(value.data(), target);
 }
 
-/// All that a document says, without white space, which indenting adds. Throws UnusableFile.
-Text WordsOf(const DocumentModel& model, const std::string& file) {
+/// All that a document says, without white space, which indenting adds.
+Text WordsOf(const DocumentModel& model) {
     Text words;
     for (TreeWalk walk(model.Root().GetNode()); walk.Node(); walk.Next()) {
         const DOMNode& node = *walk.Node();
-        if (walk.Depth() > deepestElement)
-            throw UnusableFile(file, "nests elements too deep to be saved");
         if (node.getNodeType() == DOMNode::ELEMENT_NODE)
             AppendAttributes(node, words);
         if (node.getNodeType() == DOMNode::TEXT_NODE || node.getNodeType() == DOMNode::CDATA_SECTION_NODE)
@@ -104,7 +95,7 @@ bool CanBeReadBack(const DocumentModel& model) {
 bool HoldsWords(const Bytes& bytes, const Text& words) {
     try {
         const DocumentModel readBack(Source::Of("", std::string(bytes.begin(), bytes.end())));
-        return WordsOf(readBack, "") == words;
+        return WordsOf(readBack) == words;
     } catch (const UnusableFile&) {
         return false;
     }
@@ -114,6 +105,13 @@ Bytes Write(const DocumentModel& model, const DocumentForm& form) {
     const std::string name = XercesTreeOperations::Uppercase(form.encoding);
     return model.Root().SaveToBinary(form.pretty, form.encoding, form.bigEndian || name == "UTF-16BE",
                                      form.byteOrderMark || name == "UTF-16");
+}
+
+/// Why the library has written nothing: it names the depth, and nothing that it meets in an encoding.
+std::string ReasonOf(const tessera::Exception& error, const std::string& encoding) {
+    const bool isTooDeep = error.message().find("nested too deep") != std::string::npos;
+    return isTooDeep ? "is nested too deep to be saved"
+                     : "cannot be written in the encoding '" + encoding + "'";
 }
 
 } // namespace
@@ -127,12 +125,12 @@ bool CanBeBigEndian(const std::string& encoding) {
 Bytes Serialise(const DocumentModel& model, const DocumentForm& form, const std::string& file) {
     if (!IsKnown(form.encoding))
         throw UnusableFile(file, "the encoding '" + form.encoding + "' is not known");
-    const Text words = WordsOf(model, file);
+    const Text words = WordsOf(model);
     Bytes bytes;
     try {
         bytes = Write(model, form);
-    } catch (const tessera::DataTargetUnavailableException&) {
-        throw UnusableFile(file, "cannot be written in the encoding '" + form.encoding + "'");
+    } catch (const tessera::DataTargetUnavailableException& error) {
+        throw UnusableFile(file, ReasonOf(error, form.encoding));
     }
     if (CanBeReadBack(model) && !HoldsWords(bytes, words))
         throw UnusableFile(file, "loses text in the encoding '" + form.encoding + "'");
