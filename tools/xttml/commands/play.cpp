@@ -8,7 +8,9 @@
 #include <chrono>
 #include <fmt/format.h>
 #include <functional>
+#include <iterator>
 #include <thread>
+#include <utility>
 
 namespace xttml {
 
@@ -33,6 +35,38 @@ std::string ToJsonLine(const Change& change, JsonItems& items) {
                        change.comes ? "comes" : "goes", items.ToText(change.item));
 }
 
+/// What is on screen over time.
+class Screens {
+public:
+    Screens(const DisplaySequence& sequence, Query query) : sequence_(sequence), query_(query) {}
+
+    /// Moves to a time, a later one each time.
+    void MoveTo(MediaTime time) {
+        previousTime_ = std::exchange(time_, time);
+        previous_ = std::exchange(items_, LookAt(sequence_, time, query_).items);
+    }
+    /// What has come since the last time and what has gone.
+    ItemList Come() const { return Missing(items_, previous_, previousTime_); }
+    ItemList Gone() const { return Missing(previous_, items_, time_); }
+
+private:
+    /// The items that are not among the others, which are on screen at a time.
+    ItemList Missing(const ItemList& items, const ItemList& others, std::optional<MediaTime> time) const {
+        const auto isAmongOthers = [&](const DisplayItem* item) {
+            return query_ == Query::ALL ? time && sequence_.IsOnScreen(*item, *time)
+                                        : std::find(others.begin(), others.end(), item) != others.end();
+        };
+        ItemList missing;
+        std::remove_copy_if(items.begin(), items.end(), std::back_inserter(missing), isAmongOthers);
+        return missing;
+    }
+
+    const DisplaySequence& sequence_;
+    Query query_;
+    std::optional<MediaTime> previousTime_, time_;
+    ItemList previous_, items_;
+};
+
 /// Writes what comes and goes, in real time when asked to.
 class ChangeWriter {
 public:
@@ -40,14 +74,15 @@ public:
         : output_(output), toText_(std::move(toText)), realtimeFrom_(realtimeFrom),
           start_(std::chrono::steady_clock::now()) {}
 
-    void Show(ItemList items, MediaTime time) {
-        if (items == shown_)
+    void Write(MediaTime time, const ItemList& gone, const ItemList& come) {
+        if (gone.empty() && come.empty())
             return;
         anyChange_ = true;
         WaitUntil(time);
-        WriteMissing(shown_, items, time, false);
-        WriteMissing(items, shown_, time, true);
-        shown_ = std::move(items);
+        for (const DisplayItem* const item : gone)
+            output_.Write(toText_({time, false, *item}));
+        for (const DisplayItem* const item : come)
+            output_.Write(toText_({time, true, *item}));
         if (realtimeFrom_)
             output_.Flush();
     }
@@ -60,18 +95,10 @@ private:
             std::this_thread::sleep_until(start_ + std::chrono::milliseconds(time - *realtimeFrom_));
     }
 
-    void WriteMissing(const ItemList& items, ItemList others, MediaTime time, bool comes) {
-        std::sort(others.begin(), others.end(), std::less<>());
-        for (const DisplayItem* const item : items)
-            if (!std::binary_search(others.begin(), others.end(), item, std::less<>()))
-                output_.Write(toText_({time, comes, *item}));
-    }
-
     StandardOutput& output_;
     ChangeText toText_;
     std::optional<MediaTime> realtimeFrom_;
     std::chrono::steady_clock::time_point start_;
-    ItemList shown_;
     bool anyChange_ = false;
 };
 
@@ -82,9 +109,12 @@ MediaTime StartOf(const DisplaySequence& sequence, MediaTime origin) {
 
 void Play(const DisplaySequence& sequence, Query query, MediaTime from, std::optional<MediaTime> to,
           ChangeWriter& writer) {
+    Screens screens(sequence, query);
     for (std::optional<MediaTime> time = from; time && time <= to.value_or(*time);
-         time = sequence.NextChange(*time))
-        writer.Show(LookAt(sequence, *time, query).items, *time);
+         time = sequence.NextChange(*time)) {
+        screens.MoveTo(*time);
+        writer.Write(*time, screens.Gone(), screens.Come());
+    }
 }
 
 std::optional<MediaTime> TimeOf(const std::optional<WrittenTime>& time, Document& document) {

@@ -61,7 +61,8 @@ void DisplaySequence::Require(int status, const Source& source) const {
     std::uint32_t line = 0;
     std::uint32_t column = 0;
     const bool hasPlace = x_ttml_get_reason_position(parser_.get(), &line, &column) != 0;
-    throw UnusableFile(source.Name(), line, column, WithoutPlace(x_ttml_get_reason(parser_.get()), hasPlace));
+    const std::string reason = WithoutPlace(x_ttml_get_reason(parser_.get()), hasPlace);
+    throw UnusableFile(source.Name(), line, column, reason + (status == X_TTML_REFUSED ? refusalRemedy : ""));
 }
 
 void DisplaySequence::Load(const Source& source) {
@@ -125,6 +126,11 @@ ItemList DisplaySequence::OnScreen(MediaTime time) const {
     return found;
 }
 
+bool DisplaySequence::IsOnScreen(const DisplayItem& item, MediaTime time) const {
+    const std::optional<std::int32_t> asked = DocumentTime(time);
+    return asked && item.fgCheckTimeInfo(*asked);
+}
+
 ItemList DisplaySequence::PlainAnswer(MediaTime time) const {
     const std::optional<std::int32_t> asked = DocumentTime(std::max(time, offset_));
     if (!asked)
@@ -149,7 +155,7 @@ TextItem* DisplaySequence::Combine(MediaTime time) const {
         return nullptr;
     const DisplayItem* const first =
         x_ttml_get_display_item_by_time(parser_.get(), static_cast<std::uint32_t>(*asked));
-    if (!first || !first->fgCheckTimeInfo(*asked))
+    if (!first || !IsOnScreen(*first, time))
         return nullptr;
     return dynamic_cast<TextItem*>(x_ttml_combine_same_time_item(parser_.get()));
 }

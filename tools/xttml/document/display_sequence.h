@@ -47,6 +47,7 @@ public:
 
     /// All that is on screen. Nothing is before the document's time line begins.
     ItemList OnScreen(MediaTime time) const;
+    bool IsOnScreen(const DisplayItem& item, MediaTime time) const;
     /// What a player gets that asks for up to four items by time: the first on screen and those right after
     /// it with the same times, else what is announced.
     ItemList PlainAnswer(MediaTime time) const;

@@ -22,7 +22,8 @@ Cttaf1_dfxp Load(const Source& source) {
     try {
         return Parse(source, {!source.IsTrusted(), &fault});
     } catch (const tessera::DataSourceUnavailableException&) {
-        throw UnusableFile(source.Name(), fault.line, fault.column, fault.reason);
+        throw UnusableFile(source.Name(), fault.line, fault.column,
+                           fault.reason + (fault.kind == LoadFault::REFUSED ? refusalRemedy : ""));
     }
 }
 

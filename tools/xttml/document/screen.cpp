@@ -1,6 +1,6 @@
 #include "tools/xttml/document/screen.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace xttml {
 
@@ -21,8 +21,7 @@ Screen LookAtFirst(const DisplaySequence& sequence, MediaTime time) {
     ItemList answer = sequence.PlainAnswer(time);
     if (answer.empty())
         return {};
-    const ItemList onScreen = sequence.OnScreen(time);
-    if (std::find(onScreen.begin(), onScreen.end(), answer.front()) != onScreen.end())
+    if (sequence.IsOnScreen(*answer.front(), time))
         return {std::move(answer)};
     return {{}, answer.front()};
 }

@@ -7,6 +7,9 @@
 
 namespace xttml {
 
+/// What messages add where a document that is not trusted has more than it may.
+constexpr const char* refusalRemedy = " (--trusted reads it all the same)";
+
 /// A document before it is parsed, which may be done more than once.
 class Source {
 public:
