@@ -70,8 +70,8 @@ Cost OrdinaryCost() {
 
 bool PrintRow(const std::string& family, const char* what, double ratio, double limit) {
     const bool isKept = ratio <= limit;
-    std::fprintf(stderr, "| %s, %s | %.2f | %.1f | %s|\n", family.c_str(), what, ratio, limit,
-                 isKept ? "" : "passed ");
+    std::printf("| %s, %s | %.2f | %.1f | %s|\n", family.c_str(), what, ratio, limit,
+                isKept ? "" : "passed ");
     return isKept;
 }
 

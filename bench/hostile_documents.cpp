@@ -87,6 +87,14 @@ std::string Names(std::size_t bytes, std::size_t nameLength, const std::string& 
     return Filled(document, ends, 4);
 }
 
+/// More names than the parser keeps nodes of, so that each looks for its namespace.
+std::string ElementsWith(const std::string& prefix) {
+    std::string elements;
+    for (std::size_t i = 0; i < 64; ++i)
+        elements += "<" + prefix + ":a" + std::to_string(i) + "/>";
+    return elements;
+}
+
 std::string Namespaces(std::size_t bytes) {
     std::string declarations;
     const std::size_t count = maxNamespaces - 2;
@@ -94,11 +102,19 @@ std::string Namespaces(std::size_t bytes) {
         declarations += " xmlns:p" + std::to_string(i) + "='" + Colliding(i, maxNamespace) + "'";
     Document document(bytes, "", "<span" + declarations + ">");
     document.CloseWith("</span>");
-    // More names than the parser keeps nodes of, so that each looks for its namespace.
-    std::string elements;
-    for (std::size_t i = 0; i < 64; ++i)
-        elements += "<p" + std::to_string(count - 1) + ":a" + std::to_string(i) + "/>";
-    return Filled(document, elements, 64);
+    return Filled(document, ElementsWith("p" + std::to_string(count - 1)), 64);
+}
+
+std::string Prefixes(std::size_t bytes) {
+    const std::size_t count = maxDeclarations - 2;
+    const std::size_t length = maxName - 8;
+    std::string declarations;
+    for (std::size_t i = 0; i < count; ++i)
+        declarations += " xmlns:" + Colliding(i, length) + "='u'";
+    Document document(bytes, "", "<span" + declarations + ">");
+    document.CloseWith("</span>");
+    const std::string ends = ElementsWith(Colliding(0, length)) + ElementsWith(Colliding(count - 1, length));
+    return Filled(document, ends, 128);
 }
 
 std::string PrefixWalk(std::size_t bytes) {
@@ -176,6 +192,7 @@ std::vector<HostileFamily> HostileFamilies() {
     };
     std::vector<HostileFamily> families = {
         {"namespaces in one chain", Namespaces},
+        {"prefixes in one chain", Prefixes},
         {"prefixes in scope", PrefixWalk},
         {"attributes, short names", [](std::size_t bytes) { return Attributes(bytes, 14); }},
         {"attributes, long names", [](std::size_t bytes) { return Attributes(bytes, maxName); }},
