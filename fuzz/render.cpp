@@ -18,8 +18,8 @@ constexpr std::uint32_t mostItems = 600;
 void RequirePixels(const std::vector<std::uint32_t>& pixels, const Box& bounds) {
     for (std::size_t i = 0; i < pixels.size(); ++i) {
         const std::uint32_t alpha = pixels[i] >> 24;
-        const auto x = static_cast<double>(i % static_cast<std::size_t>(target.width));
-        const auto y = static_cast<double>(i / static_cast<std::size_t>(target.width));
+        const int x = static_cast<int>(i) % target.width;
+        const int y = static_cast<int>(i) / target.width;
         const bool isInside = x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom;
         Require(alpha == 0 || isInside, "nothing is drawn outside the bounds");
         for (const int shift : {0, 8, 16})

@@ -52,7 +52,7 @@ struct Renderer::Parts {
     std::vector<Remark> remarks;
 };
 
-Renderer::Renderer(Size target, Size root, Options options)
+Renderer::Renderer(Size target, Size root, const Options& options)
     : parts_(std::make_unique<Parts>(target, root, options)) {}
 Renderer::~Renderer() = default;
 Renderer::Renderer(Renderer&& other) noexcept = default;

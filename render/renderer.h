@@ -78,7 +78,7 @@ public:
     /// @param target the size of the frames; throws std::invalid_argument for a side that is not between 1
     ///        and longestSide
     /// @param root the root extent (x_ttml_get_tt_extent()); a side of 0 or below makes it the target's size
-    explicit Renderer(Size target, Size root = {}, Options options = {});
+    explicit Renderer(Size target, Size root = {}, const Options& options = {});
     ~Renderer();
     Renderer(Renderer&& other) noexcept;            ///< leaves one that may only be destroyed or assigned to
     Renderer& operator=(Renderer&& other) noexcept; ///< likewise

@@ -72,16 +72,18 @@ TEST(Lines, StayInsideTheRegion) {
     }
 }
 
-TEST(Lines, NarrowOnesDoNotCutTheLastDescender) {
-    const std::string attributes = "tts:displayAlign='after' tts:lineHeight='";
-    const Box whole = ShootParagraph(attributes + "0px'", "gjpq").Around(IsInk);
-    EXPECT_EQ(ShootParagraph(attributes + "5px'", "gjpq").Around(IsInk).Height(), whole.Height());
+TEST(Lines, LowOnesDoNotCutLettersAtTheEdges) {
+    for (const std::string align : {"before", "after"}) {
+        const std::string attributes = "tts:displayAlign='" + align + "' tts:lineHeight='";
+        const Box whole = ShootParagraph(attributes + "0px'", "Égjpq").Around(IsInk);
+        EXPECT_EQ(ShootParagraph(attributes + "5px'", "Égjpq").Around(IsInk).Height(), whole.Height());
+    }
 }
 
 TEST(Lines, StandAsFarApartAsTheLineHeightSays) {
-    for (const int height : {60, 12}) {
+    for (const int height : {60, 5}) {
         const Screenshot shot =
-            ShootParagraph("tts:lineHeight='" + std::to_string(height) + "px'", "xx<br/>xx");
+            ShootParagraph("tts:lineHeight='" + std::to_string(height) + "px'", "--<br/>--");
         const int top = static_cast<int>(shot.Around(IsInk).top);
         for (int y = top; y < top + height; ++y) {
             for (int x = 40; x < 280; ++x)

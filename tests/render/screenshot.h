@@ -78,7 +78,9 @@ public:
     }
     std::vector<std::uint32_t>& Numbers() { return pixels_; }
     Pixel At(int x, int y) const {
-        const std::uint32_t number = pixels_[static_cast<std::size_t>(y * size_.width + x)];
+        const std::uint32_t number =
+            pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width) +
+                    static_cast<std::size_t>(x)];
         return {number >> 24, number >> 16 & 255, number >> 8 & 255, number & 255};
     }
     int Count(Kind isKind) const {

@@ -63,7 +63,7 @@ TEST(Color, OfTextKeepsItsShareAndItsAlpha) {
 }
 
 TEST(Visibility, HiddenTextKeepsItsRoom) {
-    EXPECT_EQ(InkOf("tts:visibility='hidden'"), 0);
+    EXPECT_EQ(InkOf("tts:visibility='hidden' tts:backgroundColor='red'"), 0);
     const auto shoot = [](const std::string& attributes) {
         return ShootParagraph("", "<span tts:color='red' " + attributes +
                                       ">red</span><span tts:color='blue'>blue</span>");
