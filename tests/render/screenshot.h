@@ -20,6 +20,7 @@ public:
         x_ttml_drop_lines();
         x_ttml_try_init();
         x_ttml_try_create_parser(&handle_);
+        x_ttml_set_untrusted(handle_, 0); // which would bound the documents by itself
         x_ttml_try_load_from_data(handle_, document.data(), static_cast<std::uint32_t>(document.size()));
         x_ttml_try_set_image_data(handle_, images.data(), static_cast<std::int32_t>(images.size()));
         if (images.empty())
