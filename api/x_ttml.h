@@ -35,7 +35,7 @@
  *     library. x_ttml_init_xerces(), x_ttml_uninit_xerces() and x_ttml_load_subtitle_from_file() change its
  *     count of initialisations: call x_ttml_init_xerces() before other threads start, and none of the three
  *     in two threads at a time. Lines of two threads may alternate. A thread may be cancelled inside a load
- *     from memory or a generator, which then unwinds, but not elsewhere in the library: x_ttml_delete_parser()
+ *     from memory or a generator, which then unwinds, but not elsewhere in the library: deleting a parser
  *     would end the process.
  *  9. Trust. Unless a parser distrusts its documents (x_ttml_set_untrusted(), or a library built with
  *     XTTML_UNTRUSTED_XML), a document may have a document type declaration: what that names is read, from

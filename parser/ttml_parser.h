@@ -253,7 +253,7 @@ private:
     LoadFault loadFault_;
     const char* pReadAttribute_ = nullptr; // the attribute that is being converted, for the failure
     Failure failure_;
-    TimeIndex timeIndex_;       // of the sequence as the last generation left it
+    TimeIndex timeIndex_; // of the sequence as the last generation left it
 };
 
 #endif

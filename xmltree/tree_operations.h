@@ -234,8 +234,8 @@ public:
                              const std::string& valueLocalName, const std::string& valueNamespace);
 
     // Saving. Each throws tessera::DataTargetUnavailableException when the document cannot be written, also
-    // when it is nested too deep: the XML library's serialiser calls itself for every level of elements and is
-    // given 512 KiB of the thread's stack, some 4,000 levels.
+    // when it is nested too deep: the XML library's serialiser calls itself for every level of elements and
+    // is given 512 KiB of the thread's stack, some 4,000 levels.
 
     /// Replaces `data` by the serialised document. With `applyEncoding` the document is written in `encoding`
     /// and its byte order and byte order mark are made the ones asked for; without, the three arguments
