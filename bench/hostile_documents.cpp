@@ -79,11 +79,11 @@ std::string Names(std::size_t bytes, std::size_t nameLength, const std::string& 
                   const std::string& after) {
     const std::size_t count = maxNames - spareNames;
     const std::size_t length = nameLength - (before.back() == ':' ? before.size() - 1 : 0);
+    const auto element = [&](std::size_t i) { return before + Colliding(i, length) + after; };
     Document document(bytes, "");
-    for (std::size_t i = 0; i < count && document.Add(before + Colliding(i, length) + after, 2); ++i) {
+    for (std::size_t i = 0; i < count && document.Add(element(i), 2); ++i) {
     }
-    const std::string ends =
-        before + Colliding(0, length) + after + before + Colliding(count - 1, length) + after;
+    const std::string ends = element(0) + element(count - 1);
     return Filled(document, ends, 4);
 }
 

@@ -85,7 +85,7 @@ std::string Letters(std::size_t length) {
 std::string Numbered(const std::string& before, const std::string& after, std::size_t count) {
     std::string content = "<tt>";
     for (std::size_t i = 0; i < count; ++i)
-        content += before + std::to_string(i) + after;
+        content.append(before).append(std::to_string(i)).append(after);
     return content + "</tt>";
 }
 
