@@ -21,7 +21,8 @@ def check(document):
         for command in ("list", "play"):
             if run(command, document).returncode != DONE:
                 raise AssertionError(f"{command} fails where list --json succeeds: {document}")
-    if run("list", "--json", "-", data=document.read_bytes()).stdout != done.stdout:
+    from_memory = run("list", "--json", "-", data=document.read_bytes()).stdout
+    if from_memory != done.stdout.replace(json.dumps(str(document)).encode(), b'"-"', 1):
         raise AssertionError(f"not the same from memory: {document}")
     return done.returncode == DONE
 

@@ -65,6 +65,9 @@ class Save(unittest.TestCase):
             done = run("save", *arguments)
             self.assertEqual(done.returncode, code, arguments)
             self.assertIn(reason, done.stderr)
+        deep = document((None, None, "<span>" * 10001 + "</span>" * 10001))
+        done = run("save", "-", "--trusted", "-o", "-", data=deep)
+        self.assertEqual((done.returncode, done.stderr), (FAILED, b"xttml: -: nests elements too deep to be saved\n"))
         self.assertEqual(self.out.read_bytes(), b"mine", "what cannot be saved replaces nothing")
         self.assertEqual(list(self.out.parent.iterdir()), [self.out])
 

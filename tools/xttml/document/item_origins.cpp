@@ -1,5 +1,6 @@
 #include "tools/xttml/document/item_origins.h"
 
+#include "tools/xttml/document/xml_text.h"
 #include "tools/xttml/text/text_encoding.h"
 
 #include <cstdlib>
@@ -21,7 +22,7 @@ std::optional<std::string> AttributeOf(const xercesc::DOMNode* element, const ch
                                        const char* name) {
     const xercesc::DOMNode* const attribute =
         XercesTreeOperations::FindAttribute(element, namespaceUri, name);
-    return attribute ? std::optional(Utf8FromUtf16(attribute->getNodeValue())) : std::nullopt;
+    return attribute ? std::optional(Utf8FromUtf16(Units(attribute->getNodeValue()))) : std::nullopt;
 }
 
 ItemOrigin OriginOf(const xercesc::DOMNode* element) {

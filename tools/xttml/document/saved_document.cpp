@@ -1,6 +1,7 @@
 #include "tools/xttml/document/saved_document.h"
 
 #include "tools/xttml/document/unusable_file.h"
+#include "tools/xttml/document/xml_text.h"
 
 #include <algorithm>
 #include <memory>
@@ -18,14 +19,13 @@ namespace xttml {
 namespace {
 
 using Bytes = std::vector<unsigned char>;
-using Text = std::basic_string<XMLCh>;
 
 bool IsKnown(const std::string& encoding) {
     constexpr XMLSize_t anySize = 1024;
     xercesc::XMLTransService::Codes status{};
     const std::unique_ptr<xercesc::XMLTranscoder> transcoder(
         xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor(
-            Text(encoding.begin(), encoding.end()).c_str(), status, anySize,
+            std::basic_string<XMLCh>(encoding.begin(), encoding.end()).c_str(), status, anySize,
             xercesc::XMLPlatformUtils::fgMemoryManager));
     return transcoder != nullptr;
 }
@@ -51,38 +51,38 @@ private:
     const DOMNode* node_;
 };
 
-void AppendWords(const XMLCh* text, Text& target) {
-    constexpr std::basic_string_view<XMLCh> whiteSpace = u" \t\n\r";
-    for (; *text; ++text)
-        if (whiteSpace.find(*text) == whiteSpace.npos)
-            target += *text;
+void AppendWords(std::u16string_view text, std::u16string& target) {
+    constexpr std::u16string_view whiteSpace = u" \t\n\r";
+    for (const char16_t unit : text)
+        if (whiteSpace.find(unit) == std::u16string_view::npos)
+            target += unit;
 }
 
 /// The values of an element's attributes, whatever their order; the declarations of namespaces are not among
 /// them.
-void AppendAttributes(const DOMNode& element, Text& target) {
-    constexpr std::basic_string_view<XMLCh> declaration = u"xmlns";
+void AppendAttributes(const DOMNode& element, std::u16string& target) {
+    constexpr std::u16string_view declaration = u"xmlns";
     const xercesc::DOMNamedNodeMap& attributes = *element.getAttributes();
-    std::vector<std::basic_string_view<XMLCh>> values;
+    std::vector<std::u16string_view> values;
     for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
-        const std::basic_string_view<XMLCh> name = attributes.item(i)->getNodeName();
+        const std::u16string_view name = Units(attributes.item(i)->getNodeName());
         if (name.substr(0, declaration.size()) != declaration)
-            values.emplace_back(attributes.item(i)->getNodeValue());
+            values.push_back(Units(attributes.item(i)->getNodeValue()));
     }
     std::sort(values.begin(), values.end());
     for (const auto& value : values)
-        AppendWords(value.data(), target);
+        AppendWords(value, target);
 }
 
 /// All that a document says, without white space, which indenting adds.
-Text WordsOf(const DocumentModel& model) {
-    Text words;
+std::u16string WordsOf(const DocumentModel& model) {
+    std::u16string words;
     for (TreeWalk walk(model.Root().GetNode()); walk.Node(); walk.Next()) {
         const DOMNode& node = *walk.Node();
         if (node.getNodeType() == DOMNode::ELEMENT_NODE)
             AppendAttributes(node, words);
         if (node.getNodeType() == DOMNode::TEXT_NODE || node.getNodeType() == DOMNode::CDATA_SECTION_NODE)
-            AppendWords(node.getNodeValue(), words);
+            AppendWords(Units(node.getNodeValue()), words);
     }
     return words;
 }
@@ -92,7 +92,7 @@ bool CanBeReadBack(const DocumentModel& model) {
     return !static_cast<const xercesc::DOMDocument*>(model.Root().GetNode())->getDoctype();
 }
 
-bool HoldsWords(const Bytes& bytes, const Text& words) {
+bool HoldsWords(const Bytes& bytes, const std::u16string& words) {
     try {
         const DocumentModel readBack(Source::Of("", std::string(bytes.begin(), bytes.end())));
         return WordsOf(readBack) == words;
@@ -125,7 +125,7 @@ bool CanBeBigEndian(const std::string& encoding) {
 Bytes Serialise(const DocumentModel& model, const DocumentForm& form, const std::string& file) {
     if (!IsKnown(form.encoding))
         throw UnusableFile(file, "the encoding '" + form.encoding + "' is not known");
-    const Text words = WordsOf(model);
+    const std::u16string words = WordsOf(model);
     Bytes bytes;
     try {
         bytes = Write(model, form);

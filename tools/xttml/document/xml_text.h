@@ -1,0 +1,18 @@
+// Text of the XML library.
+#ifndef XTTML_TOOLS_XTTML_DOCUMENT_XML_TEXT_H
+#define XTTML_TOOLS_XTTML_DOCUMENT_XML_TEXT_H
+
+#include <string_view>
+#include <xercesc/util/XercesDefs.hpp>
+
+namespace xttml {
+
+/// A zero-terminated text of the XML library, whose code units are no char16_t in its releases before 3.2.
+inline std::u16string_view Units(const XMLCh* text) {
+    static_assert(sizeof(XMLCh) == sizeof(char16_t));
+    return reinterpret_cast<const char16_t*>(text);
+}
+
+} // namespace xttml
+
+#endif
