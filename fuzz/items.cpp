@@ -118,11 +118,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string document(bytes + std::min<std::size_t>(size, 64), bytes + size);
     x_ttml_handle parser = nullptr;
     Require(x_ttml_try_create_parser(&parser) == X_TTML_OK, "a parser is made");
-    x_ttml_set_untrusted(parser, choices.OneOf(2));
+    x_ttml_set_untrusted(parser, choices.Once(2));
     RequireReason(parser, x_ttml_try_load_from_data(parser, document.data(),
                                                     static_cast<std::uint32_t>(document.size())));
     RequireReason(parser, x_ttml_try_generate_text(parser, choices.Once(2) ? 0 : choices.SignedNumber()));
-    RequireReason(parser, x_ttml_try_set_image_data(parser, "\x89PNG the only one", choices.OneOf(18)));
+    RequireReason(parser, x_ttml_try_set_image_data(parser, "\x89PNG the only one",
+                                                    static_cast<std::int32_t>(choices.OneOf(18))));
     RequireReason(parser, x_ttml_try_generate_images(parser, choices.SignedNumber()));
     const std::uint32_t count = x_ttml_get_item_count(parser);
     for (std::uint32_t i = 0; i <= std::min(count, 20U); ++i)
