@@ -110,7 +110,7 @@ Bytes Write(const DocumentModel& model, const DocumentForm& form) {
 /// Why the library has written nothing: it names the depth, and nothing that it meets in an encoding.
 std::string ReasonOf(const tessera::Exception& error, const std::string& encoding) {
     const bool isTooDeep = error.message().find("nested too deep") != std::string::npos;
-    return isTooDeep ? "is nested too deep to be saved"
+    return isTooDeep ? "nests elements too deep to be saved"
                      : "cannot be written in the encoding '" + encoding + "'";
 }
 
