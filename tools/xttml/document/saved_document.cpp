@@ -27,7 +27,7 @@ bool IsKnown(const std::string& encoding) {
         xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor(
             std::basic_string<XMLCh>(encoding.begin(), encoding.end()).c_str(), status, anySize,
             xercesc::XMLPlatformUtils::fgMemoryManager));
-    return transcoder != nullptr;
+    return transcoder && !encoding.empty(); // which iconv takes for the code page of the process
 }
 
 /// Walks a tree in document order, without recursion.
