@@ -94,9 +94,10 @@ class InstalledTree(unittest.TestCase):
             (["missing.ttml"], "", f"{EXAMPLES}/missing.ttml: No such file or directory\n"),
         ]
         valgrind = ["valgrind", "-q", "--leak-check=full", "--error-exitcode=9"] if shutil.which("valgrind") else []
+        environment = {name: value for name, value in os.environ.items() if name != "LOCPATH"}  # which glibc loses
         for files, shown, complaint in cases:
-            command = [*valgrind, program, *(EXAMPLES / file for file in files)]
-            done = subprocess.run(list(map(str, command)), capture_output=True, text=True, check=False)
+            command = list(map(str, [*valgrind, program, *(EXAMPLES / file for file in files)]))
+            done = subprocess.run(command, capture_output=True, text=True, check=False, env=environment)
             self.assertIn(shown, done.stdout)
             self.assertEqual((done.stderr, done.returncode), (complaint, 1 if complaint else 0))
 
