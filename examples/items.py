@@ -102,12 +102,12 @@ def prepare(library, parser, document, block):
 
 def main():
     arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawTextHelpFormatter)
-    arguments.add_argument("--library", default="libxttml.so.1", help="the shared library")
+    arguments.add_argument("--library", dest="name", default="libxttml.so.1", help="the shared library")
     arguments.add_argument("document", type=pathlib.Path)
     arguments.add_argument("block", nargs="?", type=pathlib.Path)
     given = arguments.parse_args()
 
-    library = open_library(given.library)
+    library = open_library(given.name)
     library.x_ttml_drop_lines()
     library.x_ttml_try_init()
     parser = c_void_p()
