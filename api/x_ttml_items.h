@@ -38,7 +38,6 @@ extern "C" {
  * Each does what its namesake in x_ttml.h does, lines on standard output included, and returns a status. What
  * a failed call has done so far stays as the namesake says.
  * @{ */
-
 /** What these calls return beside X_TTML_OK and, for a null handle, X_TTML_NULL_HANDLE. */
 enum {
     X_TTML_NO_ROOT_ELEMENT = 1, /**< the document has no tt root element, or no document is loaded */
@@ -101,7 +100,6 @@ XTTML_API int x_ttml_get_reason_position(x_ttml_handle handle, uint32_t *line, u
 
 /** @name Untrusted documents
  * @{ */
-
 /** The version of the library that runs, such as "1.0.0".
  * @param untrusted_by_default 1 when new parsers distrust their documents, else 0; may be null
  * @return the version, valid for ever */
@@ -121,7 +119,6 @@ XTTML_API int x_ttml_get_untrusted(x_ttml_handle handle);
 
 /** @name The library's lines
  * @{ */
-
 /** Receives a line of the library.
  * @param context what x_ttml_set_line_function() was given
  * @param line the text, without its line end and not terminated; valid during the call
@@ -141,7 +138,6 @@ XTTML_API void x_ttml_drop_lines(void);
 
 /** @name The display sequence
  * @{ */
-
 /** How many items the parser holds. */
 XTTML_API uint32_t x_ttml_get_item_count(x_ttml_handle handle);
 
@@ -173,7 +169,6 @@ XTTML_API int64_t x_ttml_get_next_change(x_ttml_handle handle, int32_t time);
 
 /** @name An item
  * @{ */
-
 /** What an item is. */
 enum {
     X_TTML_NO_ITEM = 0,   /**< null */
@@ -211,7 +206,6 @@ XTTML_API uint32_t x_ttml_item_get_run_count(const DisplayItem *item);
 /** @name A run
  * A piece of an item's text with one styling, counted from 0 in the order of the document.
  * @{ */
-
 /** A UTF-16 code unit. */
 #ifdef __cplusplus
 typedef char16_t x_ttml_utf16;
@@ -236,7 +230,6 @@ XTTML_API int x_ttml_run_has_own_styling(const DisplayItem *item, uint32_t run);
 
 /** @name Styling
  * @{ */
-
 /** Where the lines stand in their area (TTML 1.0, 8.2.6). */
 enum { X_TTML_DISPLAY_ALIGN_BEFORE = 0, X_TTML_DISPLAY_ALIGN_CENTER = 1, X_TTML_DISPLAY_ALIGN_AFTER = 2 };
 
