@@ -65,6 +65,11 @@ install_test_packages() {
     install_packages libgtest-dev python3=python3 pkg-config=pkg-config fonts-dejavu-core
 }
 
+# What reads our subtitles and was written by others.
+install_player_packages() {
+    install_packages ffmpeg=ffmpeg
+}
+
 clang_sanitizes() {
     printf 'int main() { return 0; }\n' |
         clang++ -fsanitize=address,undefined -x c++ - -o /dev/null 2>/dev/null
