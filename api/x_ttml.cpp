@@ -3,6 +3,9 @@
 #include "parser/ttml_parser.h"
 
 #include <algorithm>
+#include <new>
+
+#include <xercesc/util/OutOfMemoryException.hpp>
 
 namespace {
 
@@ -12,6 +15,15 @@ TtmlParser* prGetParser(x_ttml_handle handle) {
 
 int iLoadStatus(bool fgLoaded) {
     return fgLoaded ? X_TTML_OK : X_TTML_UNUSABLE;
+}
+
+/// Below this interface lack of memory is what the XML library throws, which is no std::exception.
+bool fgLoadFromFile(TtmlParser& parser, const char* path) {
+    try {
+        return parser.fgLoadDocument(path);
+    } catch (const xercesc::OutOfMemoryException&) {
+        throw std::bad_alloc();
+    }
 }
 
 } // namespace
@@ -32,7 +44,7 @@ int x_ttml_delete_parser(x_ttml_handle handle) {
 int x_ttml_load_subtitle_from_file(x_ttml_handle handle, const char* path) {
     if (!handle)
         return X_TTML_NULL_HANDLE;
-    return iLoadStatus(prGetParser(handle)->fgLoadDocument(path));
+    return iLoadStatus(fgLoadFromFile(*prGetParser(handle), path));
 }
 
 int x_ttml_load_subtitle_from_data(x_ttml_handle handle, const void* data, uint32_t size) {

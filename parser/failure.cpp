@@ -6,6 +6,8 @@
 
 #include <new>
 
+#include <xercesc/util/OutOfMemoryException.hpp>
+
 namespace {
 
 /// The library's 8-bit texts hold the low bytes of UTF-16 code units.
@@ -52,6 +54,8 @@ Failure rDescribe(const LoadFault& fault, const char* attribute) {
         return rFromValue(exception.message(), attribute);
     } catch (const std::bad_alloc&) {
         throw;
+    } catch (const xercesc::OutOfMemoryException&) {
+        throw std::bad_alloc();
     } catch (const std::exception& exception) {
         return {FAILURE_OTHER, exception.what(), 0, 0};
     } catch (...) {

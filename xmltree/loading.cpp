@@ -14,13 +14,11 @@
 #include <xercesc/sax/SAXException.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
-#include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLExceptMsgs.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
-#include <new>
 #include <utility>
 
 #include <sys/stat.h>
@@ -121,8 +119,6 @@ DOMDocument* Load(const Report& report, const LoadOptions& options, Parse&& pars
         report.Line("DOMException catched");
         Tell(options, {LoadFault::MALFORMED, Utf8(error.getMessage())});
         throw DataSourceUnavailableException(report.Failure("Xerces DOM error while loading"));
-    } catch (const xercesc::OutOfMemoryException&) { // no std::exception
-        throw std::bad_alloc();
     }
 }
 

@@ -11,7 +11,6 @@
 #include <xercesc/dom/DOMLSSerializerFilter.hpp>
 #include <xercesc/framework/MemBufFormatTarget.hpp>
 #include <xercesc/sax/SAXException.hpp>
-#include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -19,7 +18,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
-#include <new>
 
 using tessera::DataTargetUnavailableException;
 using xercesc::DOMConfiguration;
@@ -63,8 +61,6 @@ auto Guarded(Save&& save) {
                                              XercesUnstringTemp(error.getMessage()));
     } catch (const xercesc::DOMException&) {
         throw DataTargetUnavailableException("Xerces DOM error while saving");
-    } catch (const xercesc::OutOfMemoryException&) { // no std::exception
-        throw std::bad_alloc();
     }
 }
 

@@ -14,8 +14,8 @@
 // for another namespace at the element, by a declaration or by a name there or above. Else an unused one is
 // made from it.
 //
-// Lack of memory is std::bad_alloc in loads and saves. Unless a function says otherwise it passes on what the
-// XML library throws: xercesc::DOMException for a refused edit, xercesc::OutOfMemoryException in the others.
+// Unless a function says otherwise it passes on what the XML library throws: xercesc::DOMException for a
+// refused edit, xercesc::OutOfMemoryException, which is no std::exception, for lack of memory.
 #ifndef XTTML_XMLTREE_TREE_OPERATIONS_H
 #define XTTML_XMLTREE_TREE_OPERATIONS_H
 

@@ -7,6 +7,8 @@
 #include <new>
 #include <stdexcept>
 
+#include <xercesc/util/OutOfMemoryException.hpp>
+
 namespace {
 
 struct Case {
@@ -38,6 +40,8 @@ const Case cases[] = {
     {"a value of an attribute", vThrowUnread, none, "ttp:frameRate", "5 at 0:0, ttp:frameRate: caf\xC3\xA9"},
     {"a value of none", vThrowUnread, none, nullptr, "5 at 0:0, caf\xC3\xA9"},
     {"lack of memory", [] { throw std::bad_alloc(); }, malformed, "begin", "7 at 0:0, out of memory"},
+    {"lack of the XML library's", [] { throw xercesc::OutOfMemoryException(); }, none, nullptr,
+     "7 at 0:0, out of memory"},
     {"any exception", [] { throw std::length_error("too long"); }, none, "begin", "8 at 0:0, too long"},
     {"what is no exception", [] { throw 1; }, none, nullptr, "8 at 0:0, unknown exception"},
 };

@@ -4,11 +4,8 @@
 #include "tests/xmltree/sample_document.h"
 
 #include <gtest/gtest.h>
-#include <xercesc/framework/MemoryManager.hpp>
-#include <xercesc/util/OutOfMemoryException.hpp>
 
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 
 namespace {
@@ -179,27 +176,6 @@ TEST(Loading, WithoutTheXmlLibraryFailsInsteadOfCrashing) {
     const std::string outcome = Outcome([] { return Tree::LoadXml(NAMESPACED); });
     EXPECT_EQ(outcome.find("Xerces XML error while loading: "), 0u) << outcome;
     EXPECT_THROW(Tree::CreateDocument(), tessera::InvalidOperationException);
-}
-
-/// Gives memory until it is told not to.
-class LimitedMemory : public xercesc::MemoryManager {
-public:
-    bool isExhausted = false;
-
-    xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
-    void* allocate(XMLSize_t size) override {
-        return isExhausted ? throw xercesc::OutOfMemoryException() : std::malloc(size);
-    }
-    void deallocate(void* block) override { std::free(block); }
-};
-
-TEST(Loading, ExhaustedMemoryIsABadAllocation) {
-    LimitedMemory memory;
-    xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, nullptr, &memory);
-    memory.isExhausted = true;
-    EXPECT_THROW(Tree::LoadXml(NAMESPACED), std::bad_alloc);
-    memory.isExhausted = false;
-    xercesc::XMLPlatformUtils::Terminate();
 }
 
 } // namespace
