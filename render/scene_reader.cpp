@@ -1,5 +1,7 @@
 #include "render/scene_reader.h"
 
+#include "render/item_area.h"
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -13,9 +15,8 @@ constexpr std::size_t mostText = std::size_t{16} << 10; // bytes
 constexpr std::size_t costOfRun = 16;                   // as so many bytes of text
 constexpr double mostArea = 32;                         // times the target's
 
-constexpr double usualLinesOfRoot = 15;  // the font size that nobody gave
-constexpr double smallestFont = 1;       // px
-constexpr double largestPictureBox = 64; // times the root: beyond, a single pixel of it fills the screen
+constexpr double usualLinesOfRoot = 15; // the font size that nobody gave
+constexpr double smallestFont = 1;      // px
 
 constexpr char outOfSight[] = "its area is empty or outside the root container";
 constexpr char tooLarge[] = "larger pictures, backgrounds and letters than are drawn at one time";
@@ -128,7 +129,7 @@ void SceneReader::ReadImage(const DisplayItem* item, const x_ttml_styling& styli
     std::shared_ptr<const Picture> picture = pictures_.Find(file, size);
     if (!picture->surface)
         return Leave(picture->fault);
-    const Box box = PictureBox(styling, *picture);
+    const Box box = PictureBox(mapping_, styling, {picture->width, picture->height});
     const Box area = Intersection(box, mapping_.RootArea());
     if (area.IsEmpty())
         return Leave(outOfSight);
@@ -179,24 +180,7 @@ TextBlock& SceneReader::BlockAt(const Box& area, std::int32_t displayAlign) {
 }
 
 Box SceneReader::AreaOf(const x_ttml_styling& styling) const {
-    const double left = styling.origin_x;
-    const double top = styling.origin_y;
-    return Intersection(mapping_.ToTarget(left, top,
-                                          OrElse(styling.extent_width, mapping_.RootWidth() - left),
-                                          OrElse(styling.extent_height, mapping_.RootHeight() - top)),
-                        mapping_.RootArea());
-}
-
-Box SceneReader::PictureBox(const x_ttml_styling& styling, const Picture& picture) const {
-    double width = styling.extent_width;
-    double height = styling.extent_height;
-    if (width <= 0)
-        width = height > 0 ? height * picture.width / picture.height : picture.width;
-    if (height <= 0)
-        height = width * picture.height / picture.width;
-    return mapping_.ToTarget(styling.origin_x, styling.origin_y,
-                             std::min(width, largestPictureBox * mapping_.RootWidth()),
-                             std::min(height, largestPictureBox * mapping_.RootHeight()));
+    return Intersection(TextArea(mapping_, styling), mapping_.RootArea());
 }
 
 /// Stops counting, and reading, as soon as there is too much.

@@ -38,7 +38,6 @@ private:
     Look ReadLook(const x_ttml_styling& styling, const x_ttml_styling* region) const;
     TextBlock& BlockAt(const Box& area, std::int32_t displayAlign);
     Box AreaOf(const x_ttml_styling& styling) const;
-    Box PictureBox(const x_ttml_styling& styling, const Picture& picture) const;
     bool SpendText(const DisplayItem* item);
     bool SpendArea(double area);
     void Leave(std::string reason);
