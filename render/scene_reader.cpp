@@ -1,5 +1,6 @@
 #include "render/scene_reader.h"
 
+#include "render/background.h"
 #include "render/item_area.h"
 
 #include <algorithm>
@@ -29,17 +30,6 @@ bool ReadStyling(const DisplayItem* item, int (*read)(const DisplayItem*, x_ttml
 
 Color ColorOf(const x_ttml_color& color) {
     return {color.red, color.green, color.blue, color.alpha};
-}
-
-/// What is no colour counts as white, which is right for letters; behind them it would hide the picture.
-Color BackgroundOf(const x_ttml_styling& styling) {
-    constexpr std::string_view beginningsOfWhite = "#rw";
-    const x_ttml_color& color = styling.background_color;
-    const bool isWhite = std::min({color.red, color.green, color.blue, color.alpha}) == 255;
-    const char first = *styling.background_color_text;
-    if (isWhite && (first == '\0' || beginningsOfWhite.find(first) == std::string_view::npos))
-        return {};
-    return ColorOf(color);
 }
 
 /// A line feed as LINE SEPARATOR (TTML 1.0, 7.1.7): it ends a line and not the paragraph, whose direction
@@ -111,7 +101,7 @@ void SceneReader::ReadText(const DisplayItem* item, const x_ttml_styling& stylin
 }
 
 void SceneReader::ReadRegionBackground(const x_ttml_styling& region) {
-    const Fill fill = {AreaOf(region), BackgroundOf(region)};
+    const Fill fill = {AreaOf(region), ColorOf(BackgroundOf(region))};
     if (fill.color.alpha == 0 || fill.area.IsEmpty() ||
         std::find(scene.begin(), scene.end(), Layer(fill)) != scene.end())
         return;
@@ -166,7 +156,7 @@ Look SceneReader::ReadLook(const x_ttml_styling& styling, const x_ttml_styling* 
     look.decoration = styling.text_decoration;
     look.color = ColorOf(styling.color);
     if (!region || std::string_view(styling.background_color_text) != region->background_color_text)
-        look.background = BackgroundOf(styling);
+        look.background = ColorOf(BackgroundOf(styling));
     return look;
 }
 
