@@ -202,17 +202,19 @@ class Inputs(unittest.TestCase):
 
 
 class Texts(unittest.TestCase):
-    DATA = document(("1s", "2s", "a&#x9;b\nc<br/>d&#x85;&#x9B;[2J\U0001F600\u05D0 &lt;&amp;"))
+    DATA = document(("1s", "2s", "\n  a&#x9;b\nc <br/> d&#x85;&#x9B;[2J\U0001F600\u05D0 &lt;&amp;"))
 
-    def test_lines_show_breaks_and_no_control_character(self):
-        for command in (["list"], ["play"], ["at", "1s"]):
+    def test_lines_show_breaks_no_control_character_and_white_space_as_a_viewer_does(self):
+        for command in (["list"], ["play"], ["at", "1s"], ["at", "1s", "--combine"]):
             output = output_of(command[0], "-", *command[1:], data=self.DATA)
-            self.assertIn("a␉b⏎c⏎d\uFFFD\uFFFD[2J\U0001F600\u05D0 <&", output)
+            self.assertIn("  a b c⏎d\uFFFD\uFFFD[2J\U0001F600\u05D0 <&", output)
 
     def test_json_holds_the_text_as_it_is(self):
         item = json_of("list", "-", data=self.DATA)["items"][0]
-        self.assertEqual(item["text"], "a\tb\nc\nd\x85\x9b[2J\U0001F600\u05D0 <&")
+        self.assertEqual(item["text"], "\n  a\tb\nc \n d\x85\x9b[2J\U0001F600\u05D0 <&")
         self.assertEqual([run.get("lineBreak") for run in item["runs"]], [None, True, None])
+        merged = json_of("at", "-", "1s", "--combine", data=self.DATA)[0]["merged"]
+        self.assertEqual(merged, item["text"])
 
     def test_document_without_items(self):
         for data in (b'<tt xmlns="http://www.w3.org/ns/ttml"/>', document()):

@@ -30,8 +30,8 @@ class Play(unittest.TestCase):
                 "00:00:05.000  +  It was. Yesterday.",
                 "00:00:07.501  -  Is this the train to Basel?",
                 "00:00:07.501  -  It was. Yesterday.",
-                "00:00:08.000  +  Wonderful. ",
-                "00:00:09.001  -  Wonderful. ",
+                "00:00:08.000  +  Wonderful.",
+                "00:00:09.001  -  Wonderful.",
             ],
         )
 

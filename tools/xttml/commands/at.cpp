@@ -1,24 +1,32 @@
 #include "tools/xttml/commands/commands.h"
 
 #include "tools/xttml/document/screen.h"
+#include "tools/xttml/document/xml_text.h"
 #include "tools/xttml/output/item_text.h"
 #include "tools/xttml/output/json_output.h"
 #include "tools/xttml/text/text_encoding.h"
 
 #include <fmt/format.h>
+#include <xercesc/util/TransService.hpp>
 
 namespace xttml {
 
 namespace {
 
+std::u16string Utf16FromUtf8(const std::string& text) {
+    const xercesc::TranscodeFromStr utf16(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                          "UTF-8");
+    return std::u16string(Units(utf16.str()));
+}
+
 // Merging joins the items' content, which the library leaves to the player: it generates runs. An item that
 // has been merged into holds the text of the others already.
-void FillContent(const Screen& screen) {
+void FillContent(const Screen& screen, render::WhiteSpace whiteSpace) {
     for (DisplayItem* const item : screen.items) {
         auto* const text = dynamic_cast<TextItem*>(item);
         if (!text || text->fgCombined)
             continue;
-        const std::u16string visible = VisibleText(*text);
+        const std::u16string visible = Utf16FromUtf8(VisibleText(*text, whiteSpace));
         text->pGetContentPointer()->assign(visible.begin(), visible.end());
     }
 }
@@ -33,7 +41,8 @@ struct Answer {
 Answer Ask(const AtOptions& options, MediaTime time, const DisplaySequence& sequence) {
     Answer answer{time, LookAt(sequence, time, options.query), nullptr};
     if (options.combine) {
-        FillContent(answer.screen);
+        FillContent(answer.screen,
+                    options.json ? render::WhiteSpace::PRESERVED : render::WhiteSpace::COLLAPSED);
         answer.merged = sequence.Combine(time);
     }
     return answer;
@@ -59,7 +68,7 @@ std::string ToLines(const Answer& answer, const DisplaySequence& sequence) {
         return lines + NothingOnScreen(answer.screen, sequence);
     if (answer.merged)
         return lines + "  " + SpanText(sequence.SpanOf(*answer.merged)) + "  " +
-               TerminalText(Content(*answer.merged)) + '\n';
+               OnOneLine(Utf8FromUtf16(Content(*answer.merged))) + '\n';
     for (const DisplayItem* const item : answer.screen.items)
         lines += "  " + ItemLine(*item, sequence);
     return lines;

@@ -2,9 +2,13 @@
 
 #include "tools/xttml/text/text_encoding.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace xttml {
+
+using render::TextPiece;
+using render::WhiteSpace;
 
 const std::vector<Sentence*>& Runs(const DisplayItem& item) {
     static const std::vector<Sentence*> none;
@@ -23,20 +27,28 @@ std::u16string WholeText(const DisplayItem& item) {
     return text;
 }
 
-std::u16string VisibleText(const DisplayItem& item) {
-    std::u16string text;
-    bool anyVisible = false;
-    for (const Sentence* const run : Runs(item)) {
-        const bool visible = StylingOf(*run, item).iVisibility == 0;
-        if (run->fgLineBreak || visible)
-            text.append(run->vecText.begin(), run->vecText.end());
-        anyVisible = anyVisible || (visible && !run->fgLineBreak);
-    }
-    return anyVisible ? text : std::u16string();
+std::vector<TextPiece> VisiblePieces(const DisplayItem& item, WhiteSpace whiteSpace) {
+    std::vector<TextPiece> pieces = ReadPieces(&item, WhiteSpace::PRESERVED);
+    for (std::size_t run = 0; run < pieces.size(); ++run)
+        if (!pieces[run].isLineBreak && StylingOf(*Runs(item)[run], item).iVisibility != 0)
+            pieces[run].text.clear();
+    HandleWhiteSpace(pieces, whiteSpace);
+    return pieces;
 }
 
-std::string TerminalText(std::u16string_view text) {
-    return OnOneLine(Utf8FromUtf16(text));
+std::string TextOf(const std::vector<TextPiece>& pieces) {
+    std::string text;
+    for (const TextPiece& piece : pieces)
+        text += piece.text;
+    return text;
+}
+
+std::string VisibleText(const DisplayItem& item, WhiteSpace whiteSpace) {
+    const std::vector<TextPiece> pieces = VisiblePieces(item, whiteSpace);
+    const bool anyVisible = std::any_of(pieces.begin(), pieces.end(), [](const TextPiece& piece) {
+        return !piece.isLineBreak && !piece.text.empty();
+    });
+    return anyVisible ? TextOf(pieces) : std::string();
 }
 
 std::string BoxText(const StylingAttrib& styling) {
@@ -52,8 +64,8 @@ std::string ScreenLine(const DisplayItem& item, const ImageBlock& images) {
     const std::string forced = item.fgForcedDisplay ? "[forced] " : "";
     if (x_ttml_item_get_kind(&item) == X_TTML_IMAGE_ITEM)
         return forced + BoxText(item.styling) + "  " + ImageLine(item, images);
-    const std::u16string text = VisibleText(item);
-    return forced + (text.empty() ? std::string("[nothing visible]") : TerminalText(text));
+    const std::string text = VisibleText(item, WhiteSpace::COLLAPSED);
+    return forced + (text.empty() ? "[nothing visible]" : OnOneLine(text));
 }
 
 } // namespace xttml

@@ -2,6 +2,7 @@
 #ifndef XTTML_TOOLS_XTTML_OUTPUT_ITEM_TEXT_H
 #define XTTML_TOOLS_XTTML_OUTPUT_ITEM_TEXT_H
 
+#include "render/white_space.h"
 #include "tools/xttml/document/display_sequence.h"
 
 #include <string>
@@ -15,14 +16,17 @@ const std::vector<Sentence*>& Runs(const DisplayItem& item);
 /// The styling that a run is shown with: its own, else the item's.
 const StylingAttrib& StylingOf(const Sentence& run, const DisplayItem& item);
 
-/// The text of all runs, a line break as U+000A.
+/// The text of all runs as the item has it, a line break as U+000A.
 std::u16string WholeText(const DisplayItem& item);
 
-/// The text of the runs that are not hidden, a line break as U+000A; empty when all are hidden.
-std::u16string VisibleText(const DisplayItem& item);
+/// The runs with the text that a viewer sees: that of a hidden one is empty. Piece n is run n.
+std::vector<render::TextPiece> VisiblePieces(const DisplayItem& item, render::WhiteSpace whiteSpace);
 
-/// A text as one line for a terminal.
-std::string TerminalText(std::u16string_view text);
+/// Pieces one after the other.
+std::string TextOf(const std::vector<render::TextPiece>& pieces);
+
+/// What a viewer sees, a line break as U+000A; empty when that is line breaks at most.
+std::string VisibleText(const DisplayItem& item, render::WhiteSpace whiteSpace);
 
 /// Where an area is: "WIDTHxHEIGHT+LEFT+TOP", in px.
 std::string BoxText(const StylingAttrib& styling);

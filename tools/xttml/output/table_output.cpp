@@ -52,8 +52,9 @@ std::string Cell(const std::optional<std::string>& text) {
     return text ? OnOneLine(*text) : std::string();
 }
 
-Row ItemRow(const DisplayItem& item, const TimeSpan& span, const ItemOrigin& origin,
-            const ImageBlock& images) {
+/// @param text of an item that is no image
+Row ItemRow(const DisplayItem& item, const TimeSpan& span, const ItemOrigin& origin, const ImageBlock& images,
+            const std::string& text) {
     Row row;
     row[BEGIN] = FormatTime(span.begin);
     row[END] = FormatTime(span.end);
@@ -66,15 +67,15 @@ Row ItemRow(const DisplayItem& item, const TimeSpan& span, const ItemOrigin& ori
         row[TEXT] += "[forced] ";
     SetStyling(row, item.styling);
     const bool isImage = x_ttml_item_get_kind(&item) == X_TTML_IMAGE_ITEM;
-    row[TEXT] += isImage ? ImageLine(item, images) : TerminalText(WholeText(item));
+    row[TEXT] += isImage ? ImageLine(item, images) : OnOneLine(text);
     return row;
 }
 
-Row RunRow(const Sentence& run, std::size_t number) {
+Row RunRow(const Sentence& run, std::size_t number, const std::string& text) {
     Row row;
     row[BEGIN] = "run " + std::to_string(number);
     SetStyling(row, *run.pStylingAttrib);
-    row[TEXT] += TerminalText({run.vecText.data(), run.vecText.size()});
+    row[TEXT] += OnOneLine(text);
     return row;
 }
 
@@ -82,13 +83,15 @@ Row RunRow(const Sentence& run, std::size_t number) {
 void VisitRows(const DisplaySequence& sequence, const ItemOrigins& origins, const RowVisitor& visit) {
     std::size_t number = 0;
     for (const DisplayItem* const item : sequence.Items()) {
-        Row row = ItemRow(*item, sequence.SpanOf(*item), origins.Of(*item), sequence.Images());
+        const auto pieces = render::ReadPieces(item, render::WhiteSpace::COLLAPSED);
+        Row row =
+            ItemRow(*item, sequence.SpanOf(*item), origins.Of(*item), sequence.Images(), TextOf(pieces));
         row[NUMBER] = std::to_string(++number);
         visit(row);
         const std::vector<Sentence*>& runs = Runs(*item);
         for (std::size_t j = 0; j < runs.size(); ++j)
             if (runs[j]->pStylingAttrib)
-                visit(RunRow(*runs[j], j + 1));
+                visit(RunRow(*runs[j], j + 1, pieces[j].text));
     }
 }
 
