@@ -171,6 +171,9 @@ TEST_F(ImageSequence, NeedsABodyADivisionAndABlock) {
     EXPECT_EQ(parser.iGetExtentWidth(), 0);
     EXPECT_EQ(parser.iGetDocumentEndTime(), -1);
     EXPECT_TRUE(parser.vecGetDisplaySequence().empty());
+    vHandOver(strPng(10));
+    vGenerate("<div/>");
+    EXPECT_EQ(strOutput, "document start time 4294967295\ndocument end time 0\n") << "no item";
 }
 
 TEST_F(ImageSequence, RaisesWhereATimeIsMissing) {
@@ -204,14 +207,25 @@ TEST_F(ImageSequence, FindsImagesThatWereAppendedOneByOne) {
         << "the last is on screen to the end of time, and one whose end wraps is never";
 }
 
+TEST_F(ImageSequence, AnAppendedImageThatBeginsRightNowIsNotToCome) {
+    ASSERT_NO_FATAL_FAILURE(vGenerate("<div begin='3s' end='1s' " + strReference("1.png") + "/>"));
+    vHandOver(strPng(10));
+    parser.vGeneratePNGBufferInfo();
+    for (const int iOffset : {0, 1000})
+        parser.vGetImageItem(parser.rGetDocumentRoot().tt.first().body.first().div.first(), iOffset);
+    EXPECT_EQ(parser.rGetDisplayItemByTime(3000), &rItem(1));
+}
+
 TEST_F(ImageSequence, KeepsABlockWhileItemsPointIntoIt) {
-    const std::string strDivision = "<div begin='0s' end='1s' " + strReference("1.png") + "/>";
-    vHandOver(strPng(1000));
-    vGenerate(strDivision);
+    const auto strDivision = [](const char* index) {
+        return "<div begin='0s' end='1s' " + strReference(index) + "/>";
+    };
+    vHandOver(strPng(50) + strPng(1000));
+    vGenerate(strDivision("2.png")); // and none of the first image
     const auto& first = dynamic_cast<const ImageItem&>(rItem(0));
     for (int i = 0; i < 10; ++i)
         vHandOver(strPng(2000));
-    vGenerate(strDivision);
+    vGenerate(strDivision("1.png"));
     EXPECT_EQ(std::string(first.pImageData, first.pImageData + first.iImageDataSize), strPng(1000));
     const auto& second = dynamic_cast<const ImageItem&>(rItem(1));
     EXPECT_EQ(std::string(second.pImageData, second.pImageData + second.iImageDataSize), strPng(2000));
@@ -222,8 +236,17 @@ TEST_F(ImageSequence, CountsTheItemsOfEarlierGenerations) {
     vHandOver(strPng(10));
     vGenerate("<div begin='1s' end='2s' " + strReference("1.png") + "/>");
     EXPECT_EQ(strOutput, "document start time 0\ndocument end time 9000\n");
+}
+
+TEST_F(ImageSequence, IsPassedOverWhereTextsAreCombined) {
+    vHandOver(strPng(10));
+    const std::string strDivision = "<div begin='1s' end='2s' " + strReference("1.png") + ">";
+    vGenerateText("<p begin='1s' end='2s'><br/></p>");
+    vGenerate(strDivision + "<p begin='1s' end='2s'><br/></p></div>");
+    CapturedOutput([&] { parser.vGenerateTextDisplaySequence(0); });
     EXPECT_EQ(parser.rGetDisplayItemByTime(1500), &rItem(0));
     EXPECT_EQ(parser.rCombineSameTimeItem(), &rItem(0));
+    EXPECT_EQ(strNarrow(dynamic_cast<const TextItem&>(rItem(0)).vecContent), "\n\n\n");
 }
 
 } // namespace

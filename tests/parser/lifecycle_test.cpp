@@ -113,24 +113,34 @@ TEST_F(Lifecycle, AnnouncesItsEndAndTheXmlLibrary) {
     EXPECT_EQ(CapturedOutput([] { TtmlParser::vXercesTerminate(); }), "Terminate Xerces\n");
 }
 
+/// Keeps what a stream writes, "^" where it flushes.
+class FlushMarks : public std::stringbuf {
+    int sync() override { return sputc('^') == traits_type::eof() ? -1 : 0; }
+};
+
 TEST_F(Lifecycle, WritesTheSameLinesWhateverTheStateOfTheStream) {
     struct Grouped : std::numpunct<char> {
         std::string do_grouping() const override { return "\1"; }
     };
     const std::string strText =
         strDocument("", "<body><div><p begin='1s' end='20s' tts:fontSize='12px'/></div></body>");
-    std::ostringstream redirected;
+    FlushMarks redirected;
     std::ios before(nullptr);
     before.copyfmt(std::cout);
-    std::streambuf* const pBefore = std::cout.rdbuf(redirected.rdbuf());
+    std::streambuf* const pBefore = std::cout.rdbuf(&redirected);
     std::cout.imbue(std::locale(std::locale::classic(), new Grouped));
     std::cout << std::hex << std::showbase << std::setfill('*') << std::setw(40);
     parser.fgLoadDocument(strText.data(), static_cast<unsigned>(strText.size()));
     parser.vGenerateTextDisplaySequence(0);
+    parser.vCloseDocument();
+    std::make_unique<TtmlParser>().reset();
+    parser.fgLoadDocument("<div/>", 6U);
     std::cout.rdbuf(pBefore);
     std::cout.copyfmt(before);
-    EXPECT_EQ(redirected.str(), "load from file ok\nvGenerateTextDisplaySequence called!\n12\n"
-                                "document start time 1000\ndocument end time 20000\nINVALID\n");
+    EXPECT_EQ(redirected.str(), "load from file ok\nvGenerateTextDisplaySequence called!\n^12\n^"
+                                "document start time 1000\n^document end time 20000\n^INVALID\n^"
+                                "Close Document!\n^Document Closed!\n^destruct Parser\n"
+                                "load from file failed\n");
 }
 
 TEST(LifecycleWithoutXmlLibrary, ALoadFromMemoryFails) {

@@ -18,7 +18,8 @@ constexpr char head[] =
     "</styling><layout>"
     "<region xml:id='r' tts:extent='1000px 500px' tts:origin='30px 40px' tts:color='red' "
     "tts:backgroundColor='gray' tts:fontSize='20px' tts:fontWeight='bold' tts:fontStyle='italic' "
-    "tts:displayAlign='after' tts:textAlign='center' tts:visibility='hidden'/>"
+    "tts:displayAlign='after' tts:lineHeight='24px' tts:textAlign='center' tts:textDecoration='underline' "
+    "tts:visibility='hidden'/>"
     "</layout></head>";
 
 constexpr char regionStyling[] = "color=red display=2 w=1000 h=500 x=30 y=40 size=20 italic=1 bold=1";
@@ -29,33 +30,35 @@ struct ParagraphCase {
 };
 
 TEST_F(TextSequence, ResolvesRegionThenStyleThenAttributes) {
-    const std::string strRegion = std::string("bg=gray ") + regionStyling + " align=1 hidden=1";
+    const std::string strRegion =
+        std::string("bg=gray ") + regionStyling + " line=24 align=1 decoration=1 hidden=1";
     const ParagraphCase cases[] = {
         {"", "w=1024 h=768"},
         {"region='r'", strRegion},
         {"region='unknown'", ""},
         {"style='big'", "w=1024 h=768 size=40 set=s"},
         {"style='big bold'", "w=1024 h=768"},
-        {"region='r' style='unknown'", std::string(regionStyling) + " align=1 hidden=1"},
-        {"region='r' style='big'",
-         "color=red display=2 w=1000 h=500 x=30 y=40 size=40 italic=1 bold=1 align=1 hidden=1 set=s"},
-        {"region='r' style='bold'",
-         "color=blue display=2 w=1000 h=500 x=30 y=40 size=20 italic=1 bold=1 align=1 hidden=1 set=cw"},
-        {"region='r' style='plain'",
-         "color=red display=2 w=1000 h=500 x=30 y=40 size=20 bold=1 align=1 hidden=1 set=wi"},
+        {"region='r' style='unknown'", std::string(regionStyling) + " line=24 align=1 decoration=1 hidden=1"},
+        {"region='r' style='big'", "color=red display=2 w=1000 h=500 x=30 y=40 size=40 italic=1 bold=1 "
+                                   "line=24 align=1 decoration=1 hidden=1 set=s"},
+        {"region='r' style='bold'", "color=blue display=2 w=1000 h=500 x=30 y=40 size=20 italic=1 bold=1 "
+                                    "line=24 align=1 decoration=1 hidden=1 set=cw"},
+        {"region='r' style='plain'", "color=red display=2 w=1000 h=500 x=30 y=40 size=20 bold=1 line=24 "
+                                     "align=1 decoration=1 hidden=1 set=wi"},
         {"region='r' style='full'",
          "bg=black color=aqua display=1 w=1000 h=500 x=30 y=40 size=9 italic=1 bold=1 line=18 align=4 "
          "decoration=1 set=csiladvb"},
         // geometry: percentages are of the area before the paragraph's own extent
         {"region='r' tts:extent='50% 50%' tts:origin='10% 10%'",
-         "bg=gray color=red display=2 w=500 h=250 x=100 y=50 size=20 italic=1 bold=1 align=1 hidden=1"},
+         "bg=gray color=red display=2 w=500 h=250 x=100 y=50 size=20 italic=1 bold=1 line=24 align=1 "
+         "decoration=1 hidden=1"},
         {"tts:extent='33.3% 1px'", "w=1024 h=768"},
         {"tts:extent='33.3% 10%' tts:origin='1px 2.5px'", "w=340 h=76 x=1 y=2"},
         {"tts:extent='1em 1em' tts:origin='auto'", "w=1024 h=768"},
         // lengths
         {"region='r' tts:fontSize='150%' tts:lineHeight='50%'",
          "bg=gray color=red display=2 w=1000 h=500 x=30 y=40 size=30 italic=1 bold=1 line=15 align=1 "
-         "hidden=1"},
+         "decoration=1 hidden=1"},
         {"style='big' tts:fontSize='2em'", "w=1024 h=768 set=s"},
         {"style='big' tts:fontSize='huge'", "w=1024 h=768 set=s"},
         {"style='full' tts:lineHeight='normal'",
@@ -63,7 +66,7 @@ TEST_F(TextSequence, ResolvesRegionThenStyleThenAttributes) {
         // keywords overwrite, unknown ones with their fallback
         {"region='r' tts:color='' tts:backgroundColor='white' tts:displayAlign='x' tts:fontStyle='x' "
          "tts:fontWeight='x' tts:textAlign='x' tts:textDecoration='x' tts:visibility='x'",
-         "bg=white color= w=1000 h=500 x=30 y=40 size=20 align=3"},
+         "bg=white color= w=1000 h=500 x=30 y=40 size=20 line=24 align=3"},
         {"cff:forcedDisplayMode=' true '", "forced w=1024 h=768"},
         {"cff:forcedDisplayMode='0'", "w=1024 h=768"},
         {"color='red' xmlns:f='urn:foreign' f:color='red' f:region='r'", "w=1024 h=768"},
@@ -75,6 +78,14 @@ TEST_F(TextSequence, ResolvesRegionThenStyleThenAttributes) {
         // Regions and styles are read again by every generation; the first entries answer.
         parser.vClearDisplaySequence();
     }
+}
+
+TEST_F(TextSequence, SpansRefineWhatTheirParagraphHas) {
+    vGenerateText("<p region='r' style='big' tts:color='lime'><span tts:fontSize='50%'>x</span></p>", head);
+    const std::string strShared = "color=lime display=2 w=1000 h=500 x=30 y=40 size=";
+    const std::string strRest = "italic=1 bold=1 line=24 align=1 decoration=1 hidden=1";
+    EXPECT_EQ(Describe(rLastItem()), "[-1,-1] " + strShared + "40 " + strRest + " set=s |'x'{" + strShared +
+                                         "20 " + strRest + " set=s}");
 }
 
 TEST_F(TextSequence, PointsIntoTheTables) {
@@ -107,6 +118,7 @@ TEST_F(TextSequence, MakesSentences) {
          ""},
         {"<span>A<br/>B</span>", " |'A'{w=1024 h=768} |br |'B'{w=1024 h=768}", ""},
         {"<span/><span><span/></span>", "", ""},
+        {"<br>never read</br>x", " |br |'x'", "\n"},
         {"<span tts:fontSize='10px'><span tts:fontSize='150%'>x</span><span "
          "tts:fontSize='2em'>y</span></span>",
          " |'x'{w=1024 h=768 size=15} |'y'{w=1024 h=768 size=10}", ""},
@@ -215,6 +227,9 @@ TEST_F(TextSequence, WritesItsProgressAndReportsTheDocument) {
     EXPECT_EQ(parser.iGetExtentWidth(), 1024);
     EXPECT_EQ(parser.iGetExtentHeight(), 768);
     EXPECT_EQ(parser.vecGetDisplaySequence().size(), 3U) << "generating appends";
+    vGenerateText("", "", "tts:extent='3000000000px 5000000000px'");
+    EXPECT_EQ(parser.iGetExtentWidth(), -1294967296) << "wraps in 32 bits";
+    EXPECT_EQ(parser.iGetExtentHeight(), -1) << "the largest";
     vGenerateText("");
     EXPECT_EQ(strOutput, "vGenerateTextDisplaySequence called!\ndocument start time 4294967295\n"
                          "document end time 0\nINVALID\n");
@@ -267,6 +282,7 @@ TEST_F(TextSequence, LetsConversionErrorsPassAndKeepsEarlierItems) {
     EXPECT_EQ(strMessageOf<tessera::StringParseException>([&] { parser.vGenerateTextDisplaySequence(0); }),
               "'30fps' could not be parsed as int");
     EXPECT_TRUE(parser.vecGetDisplaySequence().empty());
+    EXPECT_NO_THROW(vGenerateText("", "", "ttp:frameRate='30fps'")) << "read with the first paragraph";
     ASSERT_TRUE(
         fgLoad(strDocument("", "<body><div><p begin='1s' end='2s'>x</p><p cff:forcedDisplayMode='yes'>"
                                "x</p></div></body>")));
