@@ -3,6 +3,7 @@
 // are told apart by their ways: operator new, and the memory manager given to the XML library.
 #include "api/x_ttml_items.h"
 #include "tests/hardening/redirected_output.h"
+#include "tests/support/captured_output.h"
 #include "tests/support/temporary_file.h"
 
 #include <gtest/gtest.h>
@@ -34,10 +35,13 @@ public:
     }
     /// How many blocks have not been freed.
     long Held() const { return held_; }
+    /// How many were ever asked for.
+    long Made() const { return made_; }
 
     void* Allocate(std::size_t size) {
         void* const block = countdown_ > 0 && --countdown_ == 0 ? nullptr : std::malloc(size);
         held_ += block ? 1 : 0;
+        ++made_;
         return block;
     }
     void Free(void* block) {
@@ -50,6 +54,7 @@ private:
 
     long countdown_ = NEVER;
     long held_ = 0;
+    long made_ = 0;
 };
 
 Allocations own;
@@ -182,10 +187,11 @@ protected:
             Ending ending = Ending::NOTHING;
             {
                 const RedirectedOutput silence("/dev/null");
-                x_ttml_handle parser = nullptr;
+                x_ttml_handle parser = &failing; // no parser
                 failing.FailAt(failures + 1);
                 ending = PlayWithFailure(parser, path);
                 hasFailed = failing.EndFailing();
+                ASSERT_NE(parser, &failing);
                 if (parser)
                     ExpectPlaysAgain(parser, path);
                 x_ttml_delete_parser(parser);
@@ -223,6 +229,57 @@ TEST_P(AllocationFailure, OfTheXmlLibraryLosesNothingOfOurs) {
         EXPECT_GT(endings[path ? Ending::BAD_ALLOC : Ending::NOTHING], 50);
         EXPECT_EQ(endings.count(Ending::BAD_ALLOC), path ? 1U : 0U) << "from memory there is a status";
     }
+}
+
+/// Keeps the last line that the library writes.
+void KeepLine(void* context, const char* line, std::size_t length) {
+    static_cast<std::string*>(context)->assign(line, length);
+}
+
+TEST_P(AllocationFailure, EndsALoadFromMemoryWithALineAndAStatus) {
+    std::string line(99, ' '); // no line of a load needs more room
+    x_ttml_set_line_function(KeepLine, &line);
+    long failing = 0;
+    for (bool hasFailed = true; hasFailed;) {
+        x_ttml_handle parser = nullptr;
+        x_ttml_create_new_parser(&parser);
+        x_ttml_set_untrusted(parser, isUntrusted);
+        own.FailAt(++failing);
+        const int status = x_ttml_load_subtitle_from_data(parser, DOCUMENT, sizeof DOCUMENT - 1);
+        hasFailed = own.EndFailing();
+        EXPECT_EQ(line, hasFailed ? "Unknown Exception Occured!" : "load from file ok");
+        EXPECT_EQ(status, hasFailed ? X_TTML_UNUSABLE : X_TTML_OK);
+        x_ttml_destory_doc(parser);
+        x_ttml_delete_parser(parser);
+    }
+    EXPECT_GT(failing, 10);
+    x_ttml_set_line_function(nullptr, nullptr);
+}
+
+TEST_P(AllocationFailure, HasNothingToFailInAQueryByTime) {
+    x_ttml_handle parser = nullptr;
+    CapturedOutput([&] {
+        x_ttml_create_new_parser(&parser);
+        Play(parser, nullptr);
+    });
+    long made = 0;
+    EXPECT_EQ(CapturedOutput([&] {
+                  made -= own.Made() + xml.Made();
+                  DisplayItem* items[X_TTML_DISPLAY_ITEM_SLOTS];
+                  for (const std::uint32_t time : {0U, 1500U, 3000U}) {
+                      x_ttml_get_display_item_by_time(parser, time);
+                      x_ttml_get_display_item_array_by_time(parser, items, time);
+                      x_ttml_get_items_on_screen(parser, items, X_TTML_DISPLAY_ITEM_SLOTS, time);
+                      x_ttml_get_next_change(parser, static_cast<std::int32_t>(time));
+                  }
+                  made += own.Made() + xml.Made();
+              }),
+              "");
+    EXPECT_EQ(made, 0);
+    CapturedOutput([&] {
+        x_ttml_destory_doc(parser);
+        x_ttml_delete_parser(parser);
+    });
 }
 
 constexpr int ENDED_BY_THE_XML_LIBRARY = 255;

@@ -91,6 +91,7 @@ TEST(DateTimes, AreReadAndPrinted) {
         {"0001-01-02T00:00:01.5", CoreTypes::FormatSeconds, "86401.5"},
         {"0000-12-31T23:59:59.9", CoreTypes::FormatSeconds, "-0.1"},
         {"0001-01-01", CoreTypes::FormatSeconds, "0"},
+        {"0001-01-01", CoreTypes::FormatDays, "0"},
         {"0001-01-03T18:00:00", CoreTypes::FormatDays, "2.75"},
         {"0000-12-30T12:00:00Z", CoreTypes::FormatDays, "-1.5Z"},
     };
@@ -100,6 +101,7 @@ TEST(DateTimes, AreReadAndPrinted) {
     EXPECT_EQ(Read("2011-03-15T10:20:30.5Z").TimeOfDay() % TICKS_PER_SECOND, 5000000);
     EXPECT_EQ(Read("2011-03-15T10:20:30.5Z").Timezone(), 0);
     EXPECT_EQ(Read("2011-03-15").Timezone(), -32768);
+    EXPECT_FALSE(Read("2011-03-15").HasTimezone());
 }
 
 TEST(DateTimes, RejectOtherTexts) {

@@ -113,6 +113,12 @@ TEST(NodeEdits, AttributesByName) {
          "<r xmlns:y='urn:s'><here y:attr='1'/></r>"},
         {"<here/>", [](DOMNode* n) { Tree::SetAttribute(n, "x:attr", "urn:s", "1"); },
          "<here xmlns:x='urn:s' x:attr='1'/>"},
+        {"<here/>",
+         [](DOMNode* n) {
+             Tree::SetAttribute(n, "x:one", "urn:s", "1");
+             Tree::SetAttribute(n, "y:two", "urn:s", "2");
+         },
+         "<here xmlns:x='urn:s' x:one='1' x:two='2'/>"},
         {"<here/>", [](DOMNode* n) { Tree::SetAttribute(n, "attr", "urn:s", "1"); },
          "<here xmlns:n0='urn:s' n0:attr='1'/>"},
         {"<here/>", [](DOMNode* n) { Tree::SetAttribute(n, "attr", "", "1"); }, "<here attr='1'/>"},
