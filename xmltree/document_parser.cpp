@@ -21,10 +21,9 @@ template <class Node>
 struct Open : Node {
     static Node& CopyNames(const Node& from, Node& to) {
         to.fName = from.fName;
-        const auto copy = [&](auto name) { to.*name = from.*name; };
-        copy(&Open::fNamespaceURI);
-        copy(&Open::fLocalName);
-        copy(&Open::fPrefix);
+        for (const auto name : {&Open::fNamespaceURI, &Open::fLocalName, &Open::fPrefix}) {
+            to.*name = from.*name;
+        }
         return to;
     }
 };
@@ -35,10 +34,9 @@ struct OpenMap : DOMAttrMapImpl {
 /// What links an element or a text to its siblings; null for a rarer kind of node.
 DOMChildNode* LinksOf(DOMNode* node) {
     const DOMNode::NodeType type = node->getNodeType();
-    if (type == DOMNode::TEXT_NODE) {
-        return &static_cast<DOMTextImpl*>(node)->fChild;
-    }
-    return type == DOMNode::ELEMENT_NODE ? &static_cast<DOMElementImpl*>(node)->fChild : nullptr;
+    return type == DOMNode::TEXT_NODE      ? &static_cast<DOMTextImpl*>(node)->fChild
+           : type == DOMNode::ELEMENT_NODE ? &static_cast<DOMElementImpl*>(node)->fChild
+                                           : nullptr;
 }
 
 /// A text in a buffer of its length, not 15 characters longer: the buffer that was released last is taken.
@@ -64,30 +62,22 @@ void Append(DOMParentNode& parent, Child& child) {
         return;
     }
     Own(parent.fContainingNode, child);
-    if (isFirst) {
-        child.fNode.isFirstChild(true);
-        parent.fFirstChild = &child;
-    } else {
-        child.fChild.previousSibling = first->previousSibling;
-        last->nextSibling = &child;
-    }
+    child.fNode.isFirstChild(isFirst);
+    child.fChild.previousSibling = first->previousSibling;
+    (isFirst ? parent.fFirstChild : last->nextSibling) = &child;
     first->previousSibling = &child;
 }
 
 } // namespace
 
-// Without a document type there are no references to entities: what has children is the document or an
-// element.
-
 void DocumentParser::startDocument() {
-    elements_.clear();
-    attributes_.clear();
+    elements_ = attributes_ = {};
     XercesDOMParser::startDocument();
 }
 
 void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) {
-    const bool isNewText = !isCdata && fWithinElement && fCurrentNode->getNodeType() != DOMNode::TEXT_NODE;
-    if (fDocumentType || !isNewText) {
+    const bool isContinued = fCurrentNode->getNodeType() == DOMNode::TEXT_NODE;
+    if (fDocumentType || isCdata || !fWithinElement || isContinued) {
         XercesDOMParser::docCharacters(characters, length, isCdata);
         return;
     }

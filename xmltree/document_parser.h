@@ -11,7 +11,8 @@
 
 /// Makes and links elements, attributes and texts itself: the XML library asks by dynamic_cast what each node
 /// is, again and again, and looks up every name in a pool, which takes half of a parse. Rarer nodes and
-/// documents with a type are left to it. Namespaces have to be on.
+/// documents with a type are left to it: without one there are no references to entities, so that what has
+/// children is the document or an element. Namespaces have to be on.
 class DocumentParser : public xercesc::XercesDOMParser {
 public:
     using XercesDOMParser::XercesDOMParser;
