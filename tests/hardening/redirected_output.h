@@ -10,12 +10,11 @@
 
 class RedirectedOutput {
 public:
-    /// @param path what takes the output; null: nothing does, descriptor 1 is closed
+    /// @param path what takes the output
     explicit RedirectedOutput(const char* path) : saved_(fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3)) {
         Flush();
         close(STDOUT_FILENO);
-        if (path)
-            open(path, O_WRONLY); // takes the lowest descriptor, the one just closed
+        open(path, O_WRONLY); // takes the lowest descriptor, the one just closed
     }
     ~RedirectedOutput() {
         Flush();

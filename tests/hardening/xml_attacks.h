@@ -8,11 +8,7 @@
 #include "xmltree/tree_operations.h"
 
 #include <cstddef>
-#include <stdexcept>
 #include <string>
-
-#include <sys/inotify.h>
-#include <unistd.h>
 
 inline std::string Repeated(const std::string& text, std::size_t times) {
     std::string repeated;
@@ -55,7 +51,6 @@ std::string Outcome(Load&& load) {
     }
 }
 
-inline constexpr LoadOptions TRUSTED = {false, nullptr};
 inline constexpr LoadOptions UNTRUSTED = {true, nullptr};
 
 inline std::string TextOrRefusal(const std::string& document, const LoadOptions& options) {
@@ -70,25 +65,5 @@ inline std::string FileTextOrRefusal(const std::string& path, std::string& outpu
         [&] { outcome = Outcome([&] { return XercesTreeOperations::LoadDocument(path, options); }); });
     return outcome;
 }
-
-/// Sees whether a file is opened.
-class FileWatch {
-public:
-    explicit FileWatch(const std::string& path) : queue_(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-        if (queue_ < 0 || inotify_add_watch(queue_, path.c_str(), IN_OPEN) < 0)
-            throw std::runtime_error("cannot watch " + path);
-    }
-    ~FileWatch() { close(queue_); }
-    FileWatch(const FileWatch&) = delete;
-    FileWatch& operator=(const FileWatch&) = delete;
-
-    bool HasBeenOpened() const {
-        char events[4096];
-        return read(queue_, events, sizeof events) > 0;
-    }
-
-private:
-    int queue_;
-};
 
 #endif

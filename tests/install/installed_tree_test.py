@@ -15,6 +15,7 @@ import unittest
 HERE = pathlib.Path(__file__).resolve().parent
 EXAMPLES = HERE.parent.parent / "examples"
 C_PLAYER = HERE.parent / "api" / "c_player_test.c"
+CPP_PLAYER = HERE.parent / "api" / "cpp_player_test.cpp"
 C_ITEMS = HERE.parent / "api" / "c_items_test.c"
 # header, its manual page, the program that calls all its functions
 C_HEADERS = [("x_ttml.h", "xttml.3", C_PLAYER), ("x_ttml_items.h", "xttml_items.3", C_ITEMS)]
@@ -22,11 +23,6 @@ WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Werr
 C99 = ["-std=c99", "-D_POSIX_C_SOURCE=200809L"]
 CPP17 = ["-std=c++17"]
 
-DRAWN = """1000-2000 at 128,576 1024x100 in 255,128,0,64: 2 1 italic
-1 10 20.5 4; 24
-1 24 1; 1 128; 2.5; #102030FF
-caught 0
-"""
 SAVED = """1s to 2s: text
 Cannot read value of non-existent attribute.
 """
@@ -94,16 +90,11 @@ class InstalledTree(unittest.TestCase):
             (["missing.ttml"], "", f"{EXAMPLES}/missing.ttml: No such file or directory\n"),
         ]
         valgrind = ["valgrind", "-q", "--leak-check=full", "--error-exitcode=9"] if shutil.which("valgrind") else []
-        environment = {name: value for name, value in os.environ.items() if name != "LOCPATH"}  # which glibc loses
         for files, shown, complaint in cases:
             command = list(map(str, [*valgrind, program, *(EXAMPLES / file for file in files)]))
-            done = subprocess.run(command, capture_output=True, text=True, check=False, env=environment)
+            done = subprocess.run(command, capture_output=True, text=True, check=False)
             self.assertIn(shown, done.stdout)
             self.assertEqual((done.stderr, done.returncode), (complaint, 1 if complaint else 0))
-
-    def check_player(self, program):
-        drawn = run(program).splitlines()
-        self.assertEqual([line for line in DRAWN.splitlines() if line not in drawn], [])
 
     def check_saving_tool(self, program):
         saved = run(program)
@@ -186,15 +177,15 @@ class InstalledTree(unittest.TestCase):
         compilers = [
             (C_PLAYER, [GIVEN.cc, *C99], flags),
             (EXAMPLES / "player.c", [GIVEN.cc, "-std=c99"], flags),
-            (HERE / "clients" / "cpp_player.cpp", [GIVEN.cxx, *CPP17], flags),
+            (CPP_PLAYER, [GIVEN.cxx, *CPP17], flags),
             (HERE / "clients" / "saving_tool.cpp", [GIVEN.cxx, *CPP17], both),
             (HERE / "clients" / "typed_values.cpp", [GIVEN.cxx, *CPP17], both),
         ]
         for source, compiler, libraries in compilers:
             run(*compiler, *WARNINGS, source, *libraries, "-o", self.work / source.stem)
         run(self.work / C_PLAYER.stem)
+        run(self.work / CPP_PLAYER.stem)
         self.check_example(self.work / "player")
-        self.check_player(self.work / "cpp_player")
         self.check_saving_tool(self.work / "saving_tool")
         self.check_typed_values(self.work / "typed_values")
 
@@ -203,13 +194,13 @@ class InstalledTree(unittest.TestCase):
         prefixes = ";".join(map(str, self.prefixes))
         found = run(
             GIVEN.cmake, "-S", HERE / "clients", "-B", build, f"-DCMAKE_PREFIX_PATH={prefixes}",
-            f"-DCMAKE_C_COMPILER={GIVEN.cc}", f"-DCMAKE_CXX_COMPILER={GIVEN.cxx}", f"-DC_PLAYER={C_PLAYER}", f"-DEXAMPLES={EXAMPLES}",
+            f"-DCMAKE_C_COMPILER={GIVEN.cc}", f"-DCMAKE_CXX_COMPILER={GIVEN.cxx}",
         )
         self.assertIn(f"xttml_VERSION={self.version_in_header()}", found)
         run(GIVEN.cmake, "--build", build, "--parallel", str(os.cpu_count()))
         run(build / "c_player")
+        run(build / "cpp_player")
         self.check_example(build / "player")
-        self.check_player(build / "cpp_player")
         self.check_saving_tool(build / "saving_tool")
         self.check_typed_values(build / "typed_values")
 

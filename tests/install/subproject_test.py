@@ -62,7 +62,7 @@ class Subproject(unittest.TestCase):
     @classmethod
     def configure(cls, *options):
         compilers = [f"-DCMAKE_C_COMPILER={CC}", f"-DCMAKE_CXX_COMPILER={CXX}"]
-        player = TESTS / "install" / "clients" / "cpp_player.cpp"
+        player = TESTS / "api" / "cpp_player_test.cpp"
         return run(CMAKE, "-S", cls.host, "-B", cls.build, f"-DPLAYER={player}", *compilers, *options)
 
     def files_installed(self):
@@ -71,7 +71,7 @@ class Subproject(unittest.TestCase):
         return {file.name for file in self.prefix.rglob("*") if file.is_file()}
 
     def test_the_player_runs(self):
-        self.assertIn("1000-2000 at 128,576 1024x100 in 255,128,0,64: 2 1 italic", run(self.build / "player"))
+        run(self.build / "player")
         self.assertEqual([file.suffix for file in self.build.rglob("libxttml.*")], [".a"])
 
     def test_nothing_of_the_host_is_changed(self):
@@ -83,9 +83,9 @@ class Subproject(unittest.TestCase):
     def test_the_static_library_installed(self):
         self.configure("-DXTTML_INSTALL=ON")
         self.assertLessEqual({"libxttml.a", "x_ttml.h", "xttml.pc", "xttmlConfig.cmake"}, self.files_installed())
-        clients, c_player, examples = self.host / "clients", TESTS / "api" / "c_player_test.c", TESTS.parent / "examples"
+        clients, c_player = self.host / "clients", TESTS / "api" / "c_player_test.c"
         run(CMAKE, "-S", TESTS / "install" / "clients", "-B", clients, f"-DCMAKE_PREFIX_PATH={self.prefix}",
-            f"-DCMAKE_C_COMPILER={CC}", f"-DCMAKE_CXX_COMPILER={CXX}", f"-DC_PLAYER={c_player}", f"-DEXAMPLES={examples}")
+            f"-DCMAKE_C_COMPILER={CC}", f"-DCMAKE_CXX_COMPILER={CXX}")
         run(CMAKE, "--build", clients, "--target", "c_player")
         run(clients / "c_player")
 

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <random>
 
 using namespace tessera;
 
@@ -191,20 +190,6 @@ TEST(CoreTypes, DigitsAreReadWithSignAndOverflow) {
         EXPECT_EQ(integer.magnitude, c.magnitude) << c.text;
         EXPECT_EQ(integer.positive, c.positive) << c.text;
         EXPECT_EQ(integer.overflow, c.overflow) << c.text;
-    }
-}
-
-TEST(CoreTypes, IntegersGoOutAndComeBack) {
-    std::mt19937_64 generator(7);
-    for (int i = 0; i < 10000; ++i) {
-        const std::uint64_t bits = generator() >> (generator() % 64);
-        const auto unsigned64 = static_cast<unsigned long long>(bits);
-        const auto signed64 = static_cast<long long>(bits);
-        ASSERT_EQ(CoreTypes::CastToUInt64(CoreTypes::CastToString(unsigned64)), unsigned64);
-        ASSERT_EQ(CoreTypes::CastToInt64(CoreTypes::CastToString(signed64)), signed64);
-        const auto signed32 = static_cast<int>(bits);
-        ASSERT_EQ(CoreTypes::CastToInt(CoreTypes::CastToString(signed32)), signed32);
-        ASSERT_EQ(CoreTypes::CastToInt(static_cast<double>(signed32)), signed32);
     }
 }
 

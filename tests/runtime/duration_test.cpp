@@ -162,21 +162,3 @@ TEST(Durations, GoOutAndComeBack) {
         ASSERT_EQ(Read(CoreTypes::CastToString(value)), value) << months << ' ' << ticks;
     }
 }
-
-TEST(Durations, AnyTextIsReadOrRejected) {
-    std::mt19937 generator(14);
-    int read = 0;
-    for (int i = 0; i < 50000; ++i) {
-        std::string text = generator() % 4 == 0 ? "-P" : "P";
-        for (std::size_t length = generator() % 9; length > 0; --length) {
-            text += "0123456789YMDTHMS."[generator() % 18];
-        }
-        try {
-            const std::string printed = CoreTypes::CastToString(Read(text));
-            ASSERT_EQ(CoreTypes::CastToString(Read(printed)), printed) << text;
-            ++read;
-        } catch (const StringParseException&) {
-        }
-    }
-    EXPECT_GT(read, 500);
-}

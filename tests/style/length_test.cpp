@@ -189,14 +189,6 @@ TEST(Length, ReadsNumbersLikeAtof) {
     EXPECT_TRUE(std::isinf(fStr2Float("-1e60")));
 }
 
-TEST(Length, IgnoresTheLocaleOfTheProcess) {
-    const char* const pChosen = std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-    if (!pChosen)
-        GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed";
-    EXPECT_EQ(fStr2Float("1.5"), 1.5F);
-    std::setlocale(LC_NUMERIC, "C");
-}
-
 TEST(Length, SeparatesByWhiteSpaceOfTheCLocale) {
     ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
     float fFirst = 0;

@@ -21,21 +21,6 @@ TEST(StylingAttrib, StartsWithTheDefaults) {
     EXPECT_FALSE(attrib.fgColorSet || attrib.fgFontSizeSet || attrib.fgDisplayAlignSet);
 }
 
-TEST(StylingAttrib, CopiesReservedFieldsAndFlagsAndSharesNothing) {
-    StylingAttrib source;
-    source.strReserved5 = "kept";
-    source.aReservedPairs[3].uSecond = 7;
-    source.fgReserved2 = true;
-    source.fgColorSet = true;
-    StylingAttrib copy = source;
-    copy.strColor = "red";
-    copy.aReservedPairs[3].uSecond = 8;
-    EXPECT_EQ(copy.strReserved5, "kept");
-    EXPECT_TRUE(copy.fgReserved2 && copy.fgColorSet);
-    EXPECT_EQ(source.strColor, "#FFFFFFFF");
-    EXPECT_EQ(source.aReservedPairs[3].uSecond, 7U);
-}
-
 TEST(StylingAttrib, AMoveIsACopy) {
     StylingAttribGroup source;
     source.strId = "an identifier that is long enough for the heap";
