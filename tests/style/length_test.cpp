@@ -28,6 +28,8 @@ constexpr LengthCase lengthCases[] = {
     {"2c", 2.0F, LENGTH_UNIT_C, "2\n"},
     {"50%", 50.0F, LENGTH_UNIT_PERCENT, "50\n"},
     {"007.250px", 7.25F, LENGTH_UNIT_PX, "007.250\n"},
+    {"1000000000000000000000000000000000000000em", std::numeric_limits<float>::infinity(), LENGTH_UNIT_EM,
+     "1000000000000000000000000000000000000000\n"},
     {"24 px", 0, LENGTH_UNIT_NONE, ""},
     {"-5px", 0, LENGTH_UNIT_NONE, ""},
     {"+5px", 0, LENGTH_UNIT_NONE, ""},
