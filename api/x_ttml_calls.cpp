@@ -159,6 +159,10 @@ size_t x_ttml_get_language(x_ttml_handle handle, char* buffer, size_t room) {
     return writer.Finish();
 }
 
+void* x_ttml_get_document(x_ttml_handle handle) {
+    return handle ? prGetParser(handle)->rGetDocumentRoot().GetNode() : nullptr;
+}
+
 DisplayItem* x_ttml_get_item(x_ttml_handle handle, uint32_t index) {
     return index < x_ttml_get_item_count(handle) ? prGetParser(handle)->vecGetDisplaySequence()[index]
                                                  : nullptr;

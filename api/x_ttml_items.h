@@ -144,6 +144,12 @@ XTTML_API uint32_t x_ttml_get_item_count(x_ttml_handle handle);
 /** The xml:lang of the loaded document's tt element; empty without one and without a document. */
 XTTML_API size_t x_ttml_get_language(x_ttml_handle handle, char *buffer, size_t room);
 
+/** The loaded document in the XML library's own form, for what the items do not tell: in C++ the document
+ * model takes it, ttaf1_dfxp::tt::Cttaf1_dfxp(static_cast<xercesc::DOMNode *>(...)).
+ * @return the address of a xercesc::DOMNode, the parser's until x_ttml_destory_doc(); null without a document
+ *         and for a null handle */
+XTTML_API void *x_ttml_get_document(x_ttml_handle handle);
+
 /** An item by its number.
  * @param index counted from 0 in the order of generation
  * @return the item; null past the last one */

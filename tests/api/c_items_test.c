@@ -41,6 +41,7 @@ static x_ttml_handle new_parser(void) {
 
 static void end_parser(x_ttml_handle parser) {
     x_ttml_destory_doc(parser);
+    EXPECT(!x_ttml_get_document(parser));
     x_ttml_delete_parser(parser);
 }
 
@@ -72,6 +73,7 @@ static void wrong_arguments(void) {
     EXPECT(!x_ttml_get_item(NULL, 0) && !x_ttml_get_item(parser, 0));
     EXPECT(x_ttml_get_language(NULL, text, sizeof text) == 0 && text[0] == 0);
     EXPECT(x_ttml_get_language(parser, text, sizeof text) == 0);
+    EXPECT(!x_ttml_get_document(NULL) && !x_ttml_get_document(parser));
     EXPECT(x_ttml_get_items_on_screen(NULL, NULL, 4, 0) == 0);
     EXPECT(x_ttml_get_items_on_screen(parser, NULL, 4, 0) == 0);
     EXPECT(x_ttml_get_next_change(NULL, 0) == X_TTML_NEVER);
@@ -254,6 +256,7 @@ static void text_items(void) {
     EXPECT(x_ttml_get_untrusted(parser) == 1);
     EXPECT(load(parser, text_document) == X_TTML_OK);
     EXPECT(x_ttml_get_language(parser, language, sizeof language) == 2 && strcmp(language, "de") == 0);
+    EXPECT(x_ttml_get_document(parser) != NULL);
     EXPECT(x_ttml_try_generate_text(parser, 0) == X_TTML_OK);
     EXPECT(x_ttml_get_item_count(parser) == 3 && !x_ttml_get_item(parser, 3));
     items[0] = x_ttml_get_item(parser, 0);

@@ -99,7 +99,7 @@ class ExportedSymbols(unittest.TestCase):
     def test_the_headers_declare_the_interface(self):
         functions = [name for name in self.declared.others if name.startswith("x_ttml_")]
         readers = {"fgGetLength", "fgGetDoubleLength", "fgConvertStrToInt", "fStr2Float", "strFormatColor", "rMapColor"}
-        self.assertEqual(len(functions), 17 + 34)
+        self.assertEqual(len(functions), 17 + 35)
         self.assertLessEqual(readers, self.declared.others)
         self.assertLessEqual({"DisplayItem", "tessera::Exception", "ttaf1_dfxp::tt::Cttaf1_dfxp"}, self.declared.classes)
 
