@@ -52,7 +52,10 @@ DisplaySequence::DisplaySequence(const Source& source, const ImageBlock& images,
     for (std::uint32_t i = 0; i < x_ttml_get_item_count(parser); ++i)
         items_.push_back(x_ttml_get_item(parser, i));
     language_ = ReadLanguage(parser);
-    x_ttml_destory_doc(parser); // its memory is many times that of the items
+}
+
+DocumentModel DisplaySequence::Model() const {
+    return DocumentModel(static_cast<xercesc::DOMNode*>(x_ttml_get_document(parser_.get())));
 }
 
 void DisplaySequence::Require(int status, const Source& source) const {

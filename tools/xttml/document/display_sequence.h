@@ -2,6 +2,7 @@
 #ifndef XTTML_TOOLS_XTTML_DOCUMENT_DISPLAY_SEQUENCE_H
 #define XTTML_TOOLS_XTTML_DOCUMENT_DISPLAY_SEQUENCE_H
 
+#include "tools/xttml/document/document_model.h"
 #include "tools/xttml/document/image_block.h"
 #include "tools/xttml/document/source.h"
 #include "tools/xttml/text/media_time.h"
@@ -42,6 +43,8 @@ public:
     TimeSpan WholeSpan() const;
     /// The root container.
     PixelSize RootContainer() const;
+    /// The elements that the items were made from, for as long as the sequence lives.
+    DocumentModel Model() const;
     /// The xml:lang of the document; empty without one.
     const std::string& Language() const { return language_; }
 

@@ -6,18 +6,19 @@
 
 namespace xttml {
 
-Document::Document(const Input& input)
-    : source_(input.file, input.isTrusted), images_(input.images), sequence_(source_, images_, input.offset) {
-}
+Document::Document(const Input& input) : Document(input, Source(input.file, input.isTrusted)) {}
+
+Document::Document(const Input& input, const Source& source)
+    : file_(source.Name()), images_(input.images), sequence_(source, images_, input.offset) {}
 
 MediaTime Document::TimeOf(const WrittenTime& time) {
     if (!time.hasFrames)
         return time.milliseconds;
     if (!frameRate_)
-        frameRate_ = DocumentModel(source_).FrameRate();
+        frameRate_ = sequence_.Model().FrameRate();
     if (time.frames >= *frameRate_)
-        throw UnusableFile(source_.Name(), fmt::format("has no frame {} of a second: there are {}",
-                                                       time.frames, *frameRate_));
+        throw UnusableFile(
+            file_, fmt::format("has no frame {} of a second: there are {}", time.frames, *frameRate_));
     return time.milliseconds + MediaTime{1000} * time.frames / *frameRate_;
 }
 

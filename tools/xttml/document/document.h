@@ -30,12 +30,14 @@ public:
 
     const DisplaySequence& Sequence() const { return sequence_; }
     /// Where the items come from.
-    ItemOrigins Origins() const { return {DocumentModel(source_), sequence_}; }
+    ItemOrigins Origins() const { return {sequence_.Model(), sequence_}; }
     /// A time as the user writes it. Throws UnusableFile for a frame that the document's rate does not have.
     MediaTime TimeOf(const WrittenTime& time);
 
 private:
-    Source source_;
+    Document(const Input& input, const Source& source);
+
+    std::string file_;
     ImageBlock images_;
     DisplaySequence sequence_;
     std::optional<std::int32_t> frameRate_; // once a time with frames has been asked for

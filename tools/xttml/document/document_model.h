@@ -14,7 +14,13 @@ class DocumentModel {
 public:
     /// Throws UnusableFile for what is no well-formed document with a tt root element.
     explicit DocumentModel(const Source& source);
-    ~DocumentModel() { root_.DestroyDocument(); }
+    /// A document that somebody else has loaded and releases later.
+    /// @param document has a tt root element
+    explicit DocumentModel(xercesc::DOMNode* document) : root_(document), isOwn_(false) {}
+    ~DocumentModel() {
+        if (isOwn_)
+            root_.DestroyDocument();
+    }
     DocumentModel(const DocumentModel&) = delete;
     DocumentModel& operator=(const DocumentModel&) = delete;
 
@@ -25,6 +31,7 @@ public:
 
 private:
     ttaf1_dfxp::tt::Cttaf1_dfxp root_;
+    bool isOwn_ = true;
 };
 
 } // namespace xttml

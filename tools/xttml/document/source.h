@@ -10,7 +10,7 @@ namespace xttml {
 /// What messages add where a document that is not trusted has more than it may.
 constexpr const char* refusalRemedy = " (--trusted reads it all the same)";
 
-/// A document before it is parsed, which may be done more than once.
+/// A document before it is parsed.
 class Source {
 public:
     /// Reads a local file, or standard input for "-". Throws UnusableFile.
