@@ -6,6 +6,7 @@
 #include "runtime/whitespace.h"
 #include "style/length.h"
 #include "xmltree/namespace_names.h"
+#include "xmltree/transcode.h"
 #include "xmltree/tree_operations.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ std::u16string_view TtmlParser::strGetLanguage() const {
     const xercesc::DOMNode* const pRoot = documentRoot_.tt.first().GetNode();
     const xercesc::DOMNode* const pLanguage =
         pRoot ? XercesTreeOperations::FindAttribute(pRoot, XML_NAMESPACE, "lang") : nullptr;
-    return pLanguage ? reinterpret_cast<const char16_t*>(pLanguage->getNodeValue()) : std::u16string_view();
+    return pLanguage ? Units(pLanguage->getNodeValue()) : std::u16string_view();
 }
 
 std::optional<Cbody_eltype> TtmlParser::rFindBodyWithDivision() const {

@@ -76,7 +76,7 @@ DOMDocument* ParseDocument(const Report& report, FatalErrors& handler, Parse&& p
 }
 
 std::string Utf8(const XMLCh* text) {
-    return text ? tessera::Utf8FromUtf16(reinterpret_cast<const char16_t*>(text)) : std::string();
+    return text ? tessera::Utf8FromUtf16(Units(text)) : std::string();
 }
 
 /// Where a fatal error has no line, the document was not even opened.

@@ -13,6 +13,12 @@
 
 static_assert(sizeof(XMLCh) == 2, "the XML library's strings are UTF-16");
 
+/// The same units under the standard name of their type, which XMLCh is not in every release of the XML
+/// library.
+inline const char16_t* Units(const XMLCh* utf16) {
+    return reinterpret_cast<const char16_t*>(utf16);
+}
+
 /// Appends the low 8 bits of every code unit of `utf16`, a zero-terminated string; null appends nothing.
 void AppendNarrowed(std::string& target, const XMLCh* utf16);
 

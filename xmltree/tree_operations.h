@@ -53,14 +53,16 @@ public:
         /// The node that the walk stands on; null at the end.
         xercesc::DOMNode* CurrentNode() const { return current; }
         /// Moves to the next sibling and tells whether there is one.
-        bool operator++();
+        bool operator++() {
+            current = current ? current->getNextSibling() : nullptr;
+            return current != nullptr;
+        }
 
     private:
         xercesc::DOMNode* current;
     };
 
-    /// Walks the siblings that match a member, from a start node on. The walk has ended when CurrentNode()
-    /// is null.
+    /// Walks the siblings that match a member, from a start node on.
     class MemberIterator : public AllIterator {
     public:
         /// Stands on the first match among `node` (may be null) and the siblings after it.
@@ -68,7 +70,10 @@ public:
         MemberIterator(xercesc::DOMNode* node, const tessera::MemberInfo&& member) = delete;
 
         /// Moves to the next match and tells whether there is one.
-        bool operator++();
+        bool operator++() {
+            AllIterator::operator++();
+            return SettleOnMatch();
+        }
 
     private:
         bool SettleOnMatch();
@@ -102,10 +107,9 @@ public:
     /// Whether both strings have the same length and each UTF-16 unit equals the byte at its place. Null
     /// counts as the empty string.
     static bool IsEqualString(const XMLCh* utf16, const char* chars);
-    /// The attribute of an element with the member's namespace and local name; null when there is none.
+    /// The attribute of an element that DOMNamedNodeMap::getNamedItemNS finds; null when there is none.
     static xercesc::DOMNode* FindAttribute(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
-    /// The attribute of an element with a namespace (empty for none) and a local name; null when there is
-    /// none. Finds what DOMNamedNodeMap::getNamedItemNS finds.
+    /// The same by a namespace (empty for none) and a local name.
     static xercesc::DOMNode* FindAttribute(const xercesc::DOMNode* node, const char* namespaceURI,
                                            const char* localName);
     /// An attribute to look for.
@@ -118,13 +122,17 @@ public:
     /// Whether an element carries any attribute of the member's namespace.
     static bool HasAttributeInNamespace(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
     /// All children.
-    static AllIterator GetElements(const xercesc::DOMNode* node);
+    static AllIterator GetElements(const xercesc::DOMNode* node) {
+        return AllIterator(node ? node->getFirstChild() : nullptr);
+    }
     /// The children that match the member, which must outlive the iterator.
     static MemberIterator GetElements(const xercesc::DOMNode* node, const tessera::MemberInfo& member);
     static MemberIterator GetElements(const xercesc::DOMNode* node,
                                       const tessera::MemberInfo&& member) = delete;
     /// The parent; null for a document, an attribute and a detached node.
-    static xercesc::DOMNode* GetParent(const xercesc::DOMNode* node);
+    static xercesc::DOMNode* GetParent(const xercesc::DOMNode* node) {
+        return node ? node->getParentNode() : nullptr;
+    }
     /// The text of a node: of an element, entity reference, document or fragment the text inside it, comments
     /// and processing instructions left out; of an attribute, text, CDATA, comment or processing instruction
     /// its value; of anything else the empty string.
@@ -229,7 +237,7 @@ public:
     /// one, is declared on the element.
     static void SetAttribute(xercesc::DOMNode* node, const std::string& name, const std::string& namespaceURI,
                              const std::string& value);
-    /// Sets an attribute whose value is a qualified name, declaring a prefix for it where none is in scope.
+    /// The same with a qualified name as its value, declaring a prefix for it where none is in scope.
     static void SetAttribute(xercesc::DOMNode* node, const std::string& name, const std::string& namespaceURI,
                              const std::string& valueLocalName, const std::string& valueNamespace);
 
@@ -258,9 +266,8 @@ public:
     // Encodings of serialised documents.
 
     /// @{
-    /// What the first bytes of a document tell of its encoding; 0 when nothing was recognised. Bits 0-3: size
-    /// of a code unit in bytes. 0x10: there is a byte order mark. 0x20: big-endian. Bits 8-11: length of the
-    /// mark in bytes.
+    /// What the first bytes of a document tell of its encoding; 0: nothing. Bits 0-3: size of a code unit in
+    /// bytes. 0x10: there is a byte order mark. 0x20: big-endian. Bits 8-11: length of the mark in bytes.
     static int GetEncodingAndByteOrderFromXml(const unsigned char* data, int size);
     static int GetEncodingAndByteOrderFromXml(const std::vector<unsigned char>& data);
     /// @}
@@ -301,22 +308,10 @@ inline bool XercesTreeOperations::IsMember(const xercesc::DOMNode* node, const t
     return IsEqualString(name ? name : node->getNodeName(), member.localName);
 }
 
-inline bool XercesTreeOperations::AllIterator::operator++() {
-    if (current) {
-        current = current->getNextSibling();
-    }
-    return current != nullptr;
-}
-
 inline XercesTreeOperations::MemberIterator::MemberIterator(xercesc::DOMNode* node,
                                                             const tessera::MemberInfo& member)
     : AllIterator(node), matched(&member) {
     SettleOnMatch();
-}
-
-inline bool XercesTreeOperations::MemberIterator::operator++() {
-    AllIterator::operator++();
-    return SettleOnMatch();
 }
 
 inline bool XercesTreeOperations::MemberIterator::SettleOnMatch() {
@@ -326,17 +321,9 @@ inline bool XercesTreeOperations::MemberIterator::SettleOnMatch() {
     return CurrentNode() != nullptr;
 }
 
-inline XercesTreeOperations::AllIterator XercesTreeOperations::GetElements(const xercesc::DOMNode* node) {
-    return AllIterator(node ? node->getFirstChild() : nullptr);
-}
-
 inline XercesTreeOperations::MemberIterator
 XercesTreeOperations::GetElements(const xercesc::DOMNode* node, const tessera::MemberInfo& member) {
     return MemberIterator(node ? node->getFirstChild() : nullptr, member);
-}
-
-inline xercesc::DOMNode* XercesTreeOperations::GetParent(const xercesc::DOMNode* node) {
-    return node ? node->getParentNode() : nullptr;
 }
 
 #endif
