@@ -1,12 +1,10 @@
 #include "binding/ttaf1_dfxp.h"
 
 #include "tests/binding/owned_document.h"
+#include "tests/support/temporary_file.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -18,19 +16,6 @@ namespace {
 using Bytes = std::vector<unsigned char>;
 
 const std::string TTML = "<tt xmlns=\"http://www.w3.org/ns/ttml\" xml:lang=\"en\"><body/></tt>";
-
-Bytes ReadFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return Bytes(std::istreambuf_iterator<char>(file), {});
-}
-
-/// A path in the test's own folder, removed with what was written there.
-struct ScratchFile {
-    explicit ScratchFile(const std::string& name) : path(testing::TempDir() + name) {}
-    ~ScratchFile() { std::remove(path.c_str()); }
-
-    std::string path;
-};
 
 bool Contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
@@ -62,32 +47,32 @@ TEST_F(Document, SavesInTheEncodingAskedFor) {
         {"UTF-16LE", {'<', 0, '?', 0}},
         {"utf-16be", {0, '<', 0, '?'}},
     };
-    const ScratchFile file("binding_save.xml");
+    const TemporaryFile file;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.encoding);
         const Bytes bytes = document.root.SaveToBinary(false, c.encoding);
         ASSERT_GE(bytes.size(), c.start.size());
         EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(c.start.size())), c.start);
         document.root.SaveToFile(file.path, false, c.encoding);
-        EXPECT_EQ(ReadFile(file.path), bytes);
+        EXPECT_EQ(file.Bytes(), bytes);
     }
     document.root.SaveToFile(file.path, true, "UTF-16", true, true);
-    EXPECT_EQ(ReadFile(file.path), document.root.SaveToBinary(true, "UTF-16", true, true));
+    EXPECT_EQ(file.Bytes(), document.root.SaveToBinary(true, "UTF-16", true, true));
     document.root.SaveToFile(file.path, false);
-    EXPECT_EQ(ReadFile(file.path), document.root.SaveToBinary(false, "UTF-8"));
+    EXPECT_EQ(file.Bytes(), document.root.SaveToBinary(false, "UTF-8"));
     EXPECT_TRUE(Contains(document.root.SaveToString(false), TTML));
 }
 
 TEST_F(Document, WhatCannotBeSavedThrows) {
     const OwnedDocument document(TTML);
-    const ScratchFile file("no_such_folder/binding.xml");
-    EXPECT_THROW(document.root.SaveToFile(file.path, false), tessera::DataTargetUnavailableException);
+    const std::string path = testing::TempDir() + "no_such_folder/binding.xml";
+    EXPECT_THROW(document.root.SaveToFile(path, false), tessera::DataTargetUnavailableException);
     const Cttaf1_dfxp none(nullptr);
     const Cttaf1_dfxp element(document.Dom().getDocumentElement());
     for (const auto& wrapper : {none, element}) {
         EXPECT_THROW(wrapper.SaveToString(false), tessera::InvalidOperationException);
         EXPECT_THROW(wrapper.SaveToBinary(false), tessera::InvalidOperationException);
-        EXPECT_THROW(wrapper.SaveToFile(file.path, false), tessera::InvalidOperationException);
+        EXPECT_THROW(wrapper.SaveToFile(path, false), tessera::InvalidOperationException);
     }
 }
 

@@ -4,14 +4,17 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <unistd.h>
 
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const std::string& content) {
+    explicit TemporaryFile(const std::string& content = "") {
         const int descriptor = mkstemp(path.data());
         if (descriptor < 0)
             throw std::runtime_error("cannot make a temporary file");
@@ -22,6 +25,11 @@ public:
     ~TemporaryFile() { std::remove(path.c_str()); }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    std::vector<unsigned char> Bytes() const {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
 
     std::string path = "/tmp/xttml-test-XXXXXX";
 };
