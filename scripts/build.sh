@@ -62,7 +62,7 @@ install_build_packages() {
 }
 
 install_test_packages() {
-    install_packages libgtest-dev python3=python3 pkg-config=pkg-config fonts-dejavu-core
+    install_packages libgtest-dev python3=python3 pkg-config=pkg-config groff-base=groff fonts-dejavu-core
 }
 
 # What reads our subtitles and was written by others.
