@@ -8,8 +8,8 @@
 #include <chrono>
 #include <fmt/format.h>
 #include <functional>
-#include <iterator>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 namespace xttml {
@@ -20,101 +20,90 @@ namespace {
 struct Change {
     MediaTime time;
     bool comes;
-    const DisplayItem& item;
+    const DisplayItem* item;
 };
 
+/// In the order in which they are told: at a time what has gone, then what has come.
+using Changes = std::vector<Change>;
 using ChangeText = std::function<std::string(const Change&)>;
 
 std::string ToLine(const Change& change, const DisplaySequence& sequence) {
     return FormatTime(change.time) + (change.comes ? "  +  " : "  -  ") +
-           ScreenLine(change.item, sequence.Images()) + '\n';
+           ScreenLine(*change.item, sequence.Images()) + '\n';
 }
 
 std::string ToJsonLine(const Change& change, JsonItems& items) {
     return fmt::format("{{\"time\":{},\"change\":\"{}\",\"item\":{}}}\n", change.time,
-                       change.comes ? "comes" : "goes", items.ToText(change.item));
+                       change.comes ? "comes" : "goes", items.ToText(*change.item));
 }
 
-/// What is on screen over time.
-class Screens {
-public:
-    Screens(const DisplaySequence& sequence, Query query) : sequence_(sequence), query_(query) {}
-
-    /// Moves to a time, a later one each time.
-    void MoveTo(MediaTime time) {
-        previousTime_ = std::exchange(time_, time);
-        previous_ = std::exchange(items_, LookAt(sequence_, time, query_).items);
+/// What happens to all that is on screen, from a time on.
+Changes ChangesOfAll(const DisplaySequence& sequence, MediaTime from) {
+    Changes changes;
+    for (const DisplayItem* const item : sequence.Items()) {
+        const std::optional<Appearance> appearance = sequence.AppearanceOf(*item);
+        if (!appearance || appearance->goes.value_or(from + 1) <= from)
+            continue;
+        changes.push_back({std::max(appearance->comes, from), true, item});
+        if (appearance->goes)
+            changes.push_back({*appearance->goes, false, item});
     }
-    /// What has come since the last time and what has gone.
-    ItemList Come() const { return Missing(items_, previous_, previousTime_); }
-    ItemList Gone() const { return Missing(previous_, items_, time_); }
+    std::stable_sort(changes.begin(), changes.end(), [](const Change& left, const Change& right) {
+        return std::tie(left.time, left.comes) < std::tie(right.time, right.comes);
+    });
+    return changes;
+}
 
-private:
-    /// The items that are not among the others, which are on screen at a time.
-    ItemList Missing(const ItemList& items, const ItemList& others, std::optional<MediaTime> time) const {
-        const auto isAmongOthers = [&](const DisplayItem* item) {
-            return query_ == Query::ALL ? time && sequence_.IsOnScreen(*item, *time)
-                                        : std::find(others.begin(), others.end(), item) != others.end();
-        };
-        ItemList missing;
-        std::remove_copy_if(items.begin(), items.end(), std::back_inserter(missing), isAmongOthers);
-        return missing;
+void AppendMissing(const ItemList& items, const ItemList& others, const Change& change, Changes& changes) {
+    for (const DisplayItem* const item : items)
+        if (std::find(others.begin(), others.end(), item) == others.end())
+            changes.push_back({change.time, change.comes, item});
+}
+
+/// What happens to what a player sees that asks by time, from a time on.
+Changes ChangesOfFirst(const DisplaySequence& sequence, MediaTime from) {
+    Changes changes;
+    ItemList previous;
+    for (std::optional<MediaTime> time = from; time; time = sequence.NextChange(*time)) {
+        ItemList items = LookAt(sequence, *time, Query::FIRST).items;
+        AppendMissing(previous, items, {*time, false, nullptr}, changes);
+        AppendMissing(items, previous, {*time, true, nullptr}, changes);
+        previous = std::move(items);
     }
+    return changes;
+}
 
-    const DisplaySequence& sequence_;
-    Query query_;
-    std::optional<MediaTime> previousTime_, time_;
-    ItemList previous_, items_;
-};
-
-/// Writes what comes and goes, in real time when asked to.
+/// Writes changes, in real time when asked to.
 class ChangeWriter {
 public:
     ChangeWriter(StandardOutput& output, ChangeText toText, std::optional<MediaTime> realtimeFrom)
         : output_(output), toText_(std::move(toText)), realtimeFrom_(realtimeFrom),
           start_(std::chrono::steady_clock::now()) {}
 
-    void Write(MediaTime time, const ItemList& gone, const ItemList& come) {
-        if (gone.empty() && come.empty())
-            return;
-        anyChange_ = true;
-        WaitUntil(time);
-        for (const DisplayItem* const item : gone)
-            output_.Write(toText_({time, false, *item}));
-        for (const DisplayItem* const item : come)
-            output_.Write(toText_({time, true, *item}));
+    void Write(const Change& change) {
         if (realtimeFrom_)
-            output_.Flush();
+            WaitUntil(change.time);
+        output_.Write(toText_(change));
     }
 
-    bool AnyChange() const { return anyChange_; }
-
 private:
-    void WaitUntil(MediaTime time) const {
-        if (realtimeFrom_)
-            std::this_thread::sleep_until(start_ + std::chrono::milliseconds(time - *realtimeFrom_));
+    void WaitUntil(MediaTime time) {
+        if (std::exchange(now_, time) == time)
+            return;
+        output_.Flush();
+        std::this_thread::sleep_until(start_ + std::chrono::milliseconds(time - *realtimeFrom_));
     }
 
     StandardOutput& output_;
     ChangeText toText_;
     std::optional<MediaTime> realtimeFrom_;
     std::chrono::steady_clock::time_point start_;
-    bool anyChange_ = false;
+    std::optional<MediaTime> now_;
 };
 
 /// The first time at which something is on screen, or where the document's time line begins.
 MediaTime StartOf(const DisplaySequence& sequence, MediaTime origin) {
     return sequence.OnScreen(origin).empty() ? sequence.NextChange(origin).value_or(origin) : origin;
-}
-
-void Play(const DisplaySequence& sequence, Query query, MediaTime from, std::optional<MediaTime> to,
-          ChangeWriter& writer) {
-    Screens screens(sequence, query);
-    for (std::optional<MediaTime> time = from; time && time <= to.value_or(*time);
-         time = sequence.NextChange(*time)) {
-        screens.MoveTo(*time);
-        writer.Write(*time, screens.Gone(), screens.Come());
-    }
 }
 
 std::optional<MediaTime> TimeOf(const std::optional<WrittenTime>& time, Document& document) {
@@ -134,8 +123,12 @@ void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& 
         return options.json ? ToJsonLine(change, items) : ToLine(change, sequence);
     };
     ChangeWriter writer(output, toText, options.realtime ? std::optional(from) : std::nullopt);
-    Play(sequence, options.query, from, to, writer);
-    if (!writer.AnyChange() && !options.json)
+    const Changes changes =
+        options.query == Query::ALL ? ChangesOfAll(sequence, from) : ChangesOfFirst(sequence, from);
+    const auto end = std::find_if(changes.begin(), changes.end(),
+                                  [&to](const Change& change) { return to && change.time > *to; });
+    std::for_each(changes.begin(), end, [&writer](const Change& change) { writer.Write(change); });
+    if (end == changes.begin() && !options.json)
         output.Write("nothing comes on screen\n");
 }
 

@@ -134,6 +134,15 @@ bool DisplaySequence::IsOnScreen(const DisplayItem& item, MediaTime time) const 
     return asked && item.fgCheckTimeInfo(*asked);
 }
 
+std::optional<Appearance> DisplaySequence::AppearanceOf(const DisplayItem& item) const {
+    const std::int32_t first = std::max(x_ttml_item_get_begin(&item), 0);
+    const std::int32_t last = x_ttml_item_get_end(&item);
+    if (last < first)
+        return std::nullopt;
+    const bool stays = last == std::numeric_limits<std::int32_t>::max();
+    return Appearance{first + offset_, stays ? std::nullopt : std::optional(last + 1 + offset_)};
+}
+
 ItemList DisplaySequence::PlainAnswer(MediaTime time) const {
     const std::optional<std::int32_t> asked = DocumentTime(std::max(time, offset_));
     if (!asked)

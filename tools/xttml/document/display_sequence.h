@@ -22,6 +22,12 @@ struct TimeSpan {
     std::optional<MediaTime> end;   ///< the last millisecond
 };
 
+/// When an item is on screen, on the user's time line.
+struct Appearance {
+    MediaTime comes;               ///< the first millisecond
+    std::optional<MediaTime> goes; ///< the first millisecond after it; nothing: it stays
+};
+
 /// Display items in document order, owned by the sequence.
 using ItemList = std::vector<DisplayItem*>;
 
@@ -51,6 +57,8 @@ public:
     /// All that is on screen. Nothing is before the document's time line begins.
     ItemList OnScreen(MediaTime time) const;
     bool IsOnScreen(const DisplayItem& item, MediaTime time) const;
+    /// Nothing for an item that is never on screen.
+    std::optional<Appearance> AppearanceOf(const DisplayItem& item) const;
     /// What a player gets that asks for up to four items by time: the first on screen and those right after
     /// it with the same times, else what is announced.
     ItemList PlainAnswer(MediaTime time) const;
