@@ -21,6 +21,7 @@ Examples:
   zcat film.ttml.gz | xttml play -        a document from standard input
   xttml list film.ttml --images film.png  image subtitles with their block of PNG files
   xttml extract film.ttml --images film.png --to pictures
+  xttml convert film.ttml -o film.srt     for players that do not read TTML
   xttml save film.ttml -o film16.ttml --encoding UTF-16
 
 )";

@@ -5,6 +5,8 @@
 #include "tools/xttml/document/document.h"
 #include "tools/xttml/document/saved_document.h"
 #include "tools/xttml/document/screen.h"
+#include "tools/xttml/formats/cue_building.h"
+#include "tools/xttml/formats/format_table.h"
 #include "tools/xttml/output/json_output.h"
 #include "tools/xttml/output/output_file.h"
 
@@ -47,6 +49,14 @@ struct ExtractOptions {
     ExistingFile existing = ExistingFile::KEPT;
 };
 
+/// xttml convert
+struct ConvertOptions {
+    std::string file;     ///< "-" is standard output
+    const Format* format; ///< never null
+    Selection selection = Selection::ALL;
+    ExistingFile existing = ExistingFile::KEPT;
+};
+
 /// xttml save
 struct SaveOptions {
     std::string file; ///< "-" is standard output
@@ -58,7 +68,7 @@ struct SaveOptions {
 struct Invocation {
     std::vector<Input> inputs; ///< what the command runs on, one after the other
     bool verbose = false;
-    std::variant<ListOptions, AtOptions, PlayOptions, ExtractOptions, SaveOptions> command;
+    std::variant<ListOptions, AtOptions, PlayOptions, ExtractOptions, ConvertOptions, SaveOptions> command;
 };
 
 /// Text to show instead of running a command.

@@ -25,6 +25,12 @@ const CLI::Validator stepFormat(
     },
     "");
 
+const CLI::Validator formatName(
+    [](const std::string& text) {
+        return FindFormat(text) ? "" : "'" + text + "' is none of " + FormatNames(", ");
+    },
+    "");
+
 // Options of more than one command.
 
 CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& description,
@@ -69,6 +75,12 @@ void AddFirst(CLI::App& command, Arguments& arguments) {
 
 void AddForce(CLI::App& command, Arguments& arguments) {
     command.add_flag("--force", arguments.force, "Replace what is there");
+}
+
+void AddOutput(CLI::App& command, Arguments& arguments) {
+    command.add_option("-o,--output", arguments.target, "The file to write; - for standard output")
+        ->required()
+        ->type_name("OUT");
 }
 
 CLI::Option* AddTime(CLI::App& command, const std::string& name, std::string& time,
@@ -158,6 +170,31 @@ Command AddExtract(CLI::App& app, Arguments& arguments) {
     return {extract, [](const Arguments& given) { return ExtractOptions{given.target, given.Existing()}; }};
 }
 
+ConvertOptions MakeConvertOptions(const Arguments& arguments) {
+    const Format* const format =
+        arguments.format.empty() ? FormatOfFile(arguments.target) : FindFormat(arguments.format);
+    if (!format)
+        throw CLI::ValidationError("--to",
+                                   "is required where OUT does not end in one of " + FormatNames(", "));
+    return {arguments.target, format, arguments.forced ? Selection::FORCED : Selection::ALL,
+            arguments.Existing()};
+}
+
+Command AddConvert(CLI::App& app, Arguments& arguments) {
+    CLI::App* const convert = AddCommand(
+        app, "convert", "Write the subtitles in a format of players that do not read TTML", arguments);
+    AddFile(*convert, arguments.file);
+    AddOutput(*convert, arguments);
+    convert->add_option("--to", arguments.format, "The format (default: what OUT ends in)")
+        ->check(formatName)
+        ->type_name(FormatNames("|"));
+    convert->add_flag("--forced", arguments.forced,
+                      "Only the items that are shown even when subtitles are off");
+    AddOffset(*convert, arguments);
+    AddForce(*convert, arguments);
+    return {convert, MakeConvertOptions};
+}
+
 SaveOptions MakeSaveOptions(const Arguments& arguments) {
     if (arguments.form.bigEndian && !CanBeBigEndian(arguments.form.encoding))
         throw CLI::ValidationError("--big-endian", "has no meaning in " + arguments.form.encoding);
@@ -168,9 +205,7 @@ Command AddSave(CLI::App& app, Arguments& arguments) {
     CLI::App* const save = AddCommand(app, "save", "Write the document anew", arguments);
     DocumentForm& form = arguments.form;
     AddFile(*save, arguments.file);
-    save->add_option("-o,--output", arguments.target, "The file to write; - for standard output")
-        ->required()
-        ->type_name("OUT");
+    AddOutput(*save, arguments);
     save->add_option("--encoding", form.encoding, "UTF-8 (default), UTF-16, UTF-16BE, ISO-8859-1, ...")
         ->type_name("NAME");
     save->add_flag("--bom", form.byteOrderMark, "With a byte order mark, as UTF-16 has it anyway");
@@ -184,8 +219,8 @@ Command AddSave(CLI::App& app, Arguments& arguments) {
 } // namespace
 
 std::vector<Command> AddCommands(CLI::App& app, Arguments& arguments) {
-    return {AddList(app, arguments), AddAt(app, arguments), AddPlay(app, arguments),
-            AddExtract(app, arguments), AddSave(app, arguments)};
+    return {AddList(app, arguments),    AddAt(app, arguments),      AddPlay(app, arguments),
+            AddExtract(app, arguments), AddConvert(app, arguments), AddSave(app, arguments)};
 }
 
 } // namespace xttml

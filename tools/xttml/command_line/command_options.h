@@ -23,6 +23,7 @@ struct Arguments {
     std::vector<std::string> times;
     std::string from, to, step;
     std::string target;
+    std::string format;
     DocumentForm form;
     bool json = false;
     bool full = false;
@@ -30,6 +31,7 @@ struct Arguments {
     bool combine = false;
     bool realtime = false;
     bool force = false;
+    bool forced = false;
     bool trusted = false;
     bool verbose = false;
 

@@ -20,6 +20,9 @@ void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& 
 /// Writes the PNG file of every image item.
 void RunCommand(const ExtractOptions& options, const Input& input, StandardOutput& output);
 
+/// Writes the text items in another format.
+void RunCommand(const ConvertOptions& options, const Input& input, StandardOutput& output);
+
 /// Writes the document anew.
 void RunCommand(const SaveOptions& options, const Input& input, StandardOutput& output);
 

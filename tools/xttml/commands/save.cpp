@@ -10,10 +10,7 @@ void RunCommand(const SaveOptions& options, const Input& input, StandardOutput& 
     const std::vector<unsigned char> bytes =
         Serialise(DocumentModel(Source(input.file, input.isTrusted)), options.form, input.file);
     const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    if (options.file == "-")
-        output.Write(text);
-    else
-        WriteFile(options.file, text, options.existing);
+    WriteTo(options.file, text, options.existing, output);
 }
 
 } // namespace xttml

@@ -25,9 +25,16 @@ std::optional<std::string> AttributeOf(const xercesc::DOMNode* element, const ch
     return attribute ? std::optional(Utf8FromUtf16(Units(attribute->getNodeValue()))) : std::nullopt;
 }
 
+bool PreservesSpace(const xercesc::DOMNode* element) {
+    for (; element; element = element->getParentNode())
+        if (const auto space = AttributeOf(element, xmlNamespace, "space"))
+            return *space == "preserve";
+    return false;
+}
+
 ItemOrigin OriginOf(const xercesc::DOMNode* element) {
     return {AttributeOf(element, xmlNamespace, "id"), AttributeOf(element, noNamespace, "region"),
-            AttributeOf(element, noNamespace, "style")};
+            AttributeOf(element, noNamespace, "style"), PreservesSpace(element)};
 }
 
 /// Text items are made from the paragraphs of the first division.

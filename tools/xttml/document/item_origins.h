@@ -17,6 +17,7 @@ struct ItemOrigin {
     std::optional<std::string> id;     ///< xml:id
     std::optional<std::string> region; ///< as written, whether there is such a region or not
     std::optional<std::string> style;  ///< likewise
+    bool preservesSpace = false;       ///< xml:space is "preserve", here or from an element around it
 };
 
 /// The origins of the items of a sequence.

@@ -89,4 +89,11 @@ void WriteFile(const std::string& path, std::string_view bytes, ExistingFile exi
         Fail(path);
 }
 
+void WriteTo(const std::string& path, std::string_view bytes, ExistingFile existing, StandardOutput& output) {
+    if (path == "-")
+        output.Write(bytes);
+    else
+        WriteFile(path, bytes, existing);
+}
+
 } // namespace xttml

@@ -2,6 +2,8 @@
 #ifndef XTTML_TOOLS_XTTML_OUTPUT_OUTPUT_FILE_H
 #define XTTML_TOOLS_XTTML_OUTPUT_OUTPUT_FILE_H
 
+#include "tools/xttml/output/standard_output.h"
+
 #include <string>
 #include <string_view>
 
@@ -16,6 +18,9 @@ void RequireRoomFor(const std::string& path, ExistingFile existing);
 /// Writes a file that appears whole or not at all. Throws std::system_error, which names it, when it cannot
 /// be written, and as RequireRoomFor() does.
 void WriteFile(const std::string& path, std::string_view bytes, ExistingFile existing);
+
+/// Likewise, where "-" is standard output.
+void WriteTo(const std::string& path, std::string_view bytes, ExistingFile existing, StandardOutput& output);
 
 } // namespace xttml
 
