@@ -30,4 +30,6 @@ install(FILES docs/xttml.3 docs/xttml_items.3 DESTINATION ${CMAKE_INSTALL_MANDIR
 if(XTTML_BUILD_TOOLS)
   install(TARGETS xttml_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
   install(FILES docs/xttml.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  install(FILES tools/xttml/completion/xttml.bash RENAME xttml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
 endif()
