@@ -67,7 +67,7 @@ install_test_packages() {
 
 # What reads our subtitles and was written by others.
 install_player_packages() {
-    install_packages ffmpeg=ffmpeg
+    install_packages ffmpeg=ffmpeg python3-srt python3-webvtt
 }
 
 clang_sanitizes() {
