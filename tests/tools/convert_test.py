@@ -135,6 +135,12 @@ class Cues(unittest.TestCase):
         self.assertEqual(output_of("convert", EXAMPLES / "forced.en.ttml", "--forced", "-o", "-", "--to", "txt"),
                          "PLATFORM 9 CLOSED\n")
 
+    def test_a_root_container_without_a_size_is_a_screen(self):
+        for extent in ("0px 0px", "4294967295px 720px"):
+            script = converted(document(("1s", "2s", "a"), root=f' tts:extent="{extent}"'), "ass")
+            self.assertIn("PlayResX: 1280\nPlayResY: 720\n", script)
+            self.assertIn(",Style1,,64,64,36,,a", script)
+
     def test_one_style_for_each_look(self):
         script = output_of("convert", EXAMPLES / "lighthouse.en.ttml", "-o", "-", "--to", "ass")
         self.assertIn("PlayResX: 1280\nPlayResY: 720\n", script)

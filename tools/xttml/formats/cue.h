@@ -71,7 +71,7 @@ struct Cue {
 
 /// The subtitles of a document.
 struct Script {
-    render::Size root;       ///< the root container
+    render::Size root;       ///< the root container; 1280 x 720 for one without a size
     std::vector<Cue> cues;   ///< in the order of their begins; overlaps are kept
     std::size_t untimed = 0; ///< items left out, since they have no begin or no end after it
     std::size_t past = 0;    ///< items left out, since they end before 0

@@ -14,6 +14,12 @@ namespace {
 
 using render::WhiteSpace;
 
+render::Size RootOf(const DisplaySequence& sequence) {
+    const PixelSize root = sequence.RootContainer();
+    const render::Size size = {static_cast<std::int32_t>(root.width), static_cast<std::int32_t>(root.height)};
+    return size.width > 0 && size.height > 0 ? size : render::Size{1280, 720};
+}
+
 Side SideOf(const DisplayItem& item, std::int32_t textAlign) {
     const auto isRightToLeft = [&item] { return IsRightToLeft(VisibleText(item, WhiteSpace::COLLAPSED)); };
     switch (textAlign) {
@@ -43,8 +49,6 @@ Level LevelOf(std::int32_t displayAlign) {
 
 /// Nothing for an item that nobody has put anywhere: it has the whole root container and begins at its top.
 std::optional<Placement> PlacementOf(const x_ttml_styling& styling, const render::Size& root) {
-    if (root.width <= 0 || root.height <= 0)
-        return std::nullopt;
     const render::RootMapping mapping(root, root);
     const render::Box area = Intersection(TextArea(mapping, styling), mapping.RootArea());
     const Level level = LevelOf(styling.display_align);
@@ -85,8 +89,7 @@ bool SetTimes(Cue& cue, const TimeSpan& span, Script& script) {
 } // namespace
 
 Script BuildScript(const DisplaySequence& sequence, const ItemOrigins& origins, Selection selection) {
-    const PixelSize root = sequence.RootContainer();
-    Script script{{static_cast<std::int32_t>(root.width), static_cast<std::int32_t>(root.height)}, {}};
+    Script script{RootOf(sequence), {}};
     for (const DisplayItem* const item : sequence.Items()) {
         if (selection == Selection::FORCED && !item->fgForcedDisplay)
             continue;
