@@ -68,14 +68,31 @@ std::string Utf8FromUtf16(std::u16string_view text) {
 
 void Utf8Writer::Append(std::u16string_view text) {
     while (!text.empty()) {
-        const EncodedCharacter c = Encode(TakeCharacter(text));
-        const bool fits = written_ == length_ && written_ + c.size < room_;
-        if (fits) {
-            std::copy_n(c.bytes, c.size, buffer_ + written_);
-            written_ += c.size;
+        const auto end = std::find_if(text.begin(), text.end(), [](char16_t unit) { return unit >= 0x80; });
+        const auto ascii = static_cast<std::size_t>(end - text.begin());
+        AppendAscii(text.substr(0, ascii));
+        text.remove_prefix(ascii);
+        if (!text.empty()) {
+            const EncodedCharacter c = Encode(TakeCharacter(text));
+            AppendCharacter({c.bytes, c.size});
         }
-        length_ += c.size;
     }
+}
+
+void Utf8Writer::AppendAscii(std::u16string_view text) {
+    const bool fits = written_ == length_ && written_ < room_;
+    const std::size_t count = fits ? std::min(text.size(), room_ - written_ - 1) : 0;
+    std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(count), buffer_ + written_,
+                   [](char16_t unit) { return static_cast<char>(unit); });
+    written_ += count;
+    length_ += text.size();
+}
+
+void Utf8Writer::AppendCharacter(std::string_view bytes) {
+    if (written_ == length_ && written_ + bytes.size() < room_) {
+        written_ += bytes.copy(buffer_ + written_, bytes.size());
+    }
+    length_ += bytes.size();
 }
 
 std::size_t Utf8Writer::Finish() {

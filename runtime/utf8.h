@@ -24,6 +24,9 @@ public:
     std::size_t Finish();
 
 private:
+    void AppendAscii(std::u16string_view text); // in one piece: most texts hold little else
+    void AppendCharacter(std::string_view bytes);
+
     char* buffer_;
     std::size_t room_;
     std::size_t written_ = 0; // whole characters only
