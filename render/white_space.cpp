@@ -1,6 +1,8 @@
 #include "render/white_space.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <string_view>
 #include <utility>
 
 namespace xttml::render {
@@ -11,26 +13,38 @@ bool IsWhiteSpace(char character) {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
+/// Where words end that have one space between them.
+std::string::const_iterator EndOfWords(std::string::const_iterator words, std::string::const_iterator end) {
+    for (; words != end; ++words) {
+        const auto next = words + 1;
+        if (IsWhiteSpace(*words) && (*words != ' ' || next == end || IsWhiteSpace(*next)))
+            break;
+    }
+    return words;
+}
+
 /// Copies the text of a line piece by piece. A space waits, in the piece where it was met, for something to
 /// stand before; the line's beginning and end have nothing to offer.
 class Collapser {
 public:
     void Piece(TextPiece& piece) {
         const std::string text = std::exchange(piece.text, {});
-        for (const char character : text) {
-            if (!IsWhiteSpace(character))
-                Character(piece.text, character);
-            else if (isInsideLine_ && !spaceOwner_)
+        for (auto rest = text.begin(); rest != text.end();) {
+            const auto word = std::find_if_not(rest, text.end(), IsWhiteSpace);
+            if (word != rest && isInsideLine_ && !spaceOwner_)
                 spaceOwner_ = &piece.text;
+            rest = EndOfWords(word, text.end());
+            if (word != rest)
+                Words(piece.text, {&*word, static_cast<std::size_t>(rest - word)});
         }
     }
     void LineBreak() { *this = Collapser(); }
 
 private:
-    void Character(std::string& text, char character) {
+    void Words(std::string& text, std::string_view words) {
         if (std::string* const owner = std::exchange(spaceOwner_, nullptr))
             owner->push_back(' ');
-        text.push_back(character);
+        text += words;
         isInsideLine_ = true;
     }
 
