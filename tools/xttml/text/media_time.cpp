@@ -1,7 +1,7 @@
 #include "tools/xttml/text/media_time.h"
 
 #include <charconv>
-#include <fmt/format.h>
+#include <fmt/compile.h>
 #include <limits>
 #include <tuple>
 
@@ -134,8 +134,11 @@ std::string FormatTime(std::optional<MediaTime> time) {
     if (!time)
         return "-";
     const MediaTime distance = *time < 0 ? -*time : *time;
-    return fmt::format("{}{:02}:{:02}:{:02}.{:03}", *time < 0 ? "-" : "", distance / hour,
+    char text[40]; // hours have 13 digits at most
+    char* const end =
+        fmt::format_to(text, FMT_COMPILE("{}{:02}:{:02}:{:02}.{:03}"), *time < 0 ? "-" : "", distance / hour,
                        distance / minute % 60, distance / second % 60, distance % second);
+    return {text, end};
 }
 
 } // namespace xttml

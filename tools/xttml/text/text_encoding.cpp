@@ -51,6 +51,20 @@ char32_t TakeCodePoint(std::u16string_view text, std::size_t& position) {
     return IsHighSurrogate(unit) || IsLowSurrogate(unit) ? replacementCharacter : unit;
 }
 
+/// Whether a control character may begin with a byte.
+bool MayBeginControl(char byte) {
+    return (byte >= 0 && byte < 0x20) || byte == 0x7F || byte == '\xC2';
+}
+
+/// The position of the first control character; the end of a text without one.
+std::size_t FindControl(std::string_view text) {
+    std::size_t position = 0;
+    while (position < text.size() &&
+           (!MayBeginControl(text[position]) || ControlAt(text, position) == noControl))
+        ++position;
+    return position;
+}
+
 char32_t PictureOf(char32_t control) {
     if (control == '\n')
         return returnSymbol;
@@ -88,14 +102,14 @@ char32_t ControlAt(std::string_view text, std::size_t position) {
 std::string OnOneLine(std::string_view text) {
     std::string result;
     result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char32_t control = ControlAt(text, i);
-        if (control == noControl) {
-            result.push_back(text[i]);
-            continue;
-        }
-        AppendCodePoint(result, PictureOf(control));
-        i += BytesOfControl(control) - 1;
+    while (!text.empty()) {
+        const std::size_t control = FindControl(text);
+        result += text.substr(0, control);
+        text.remove_prefix(control);
+        if (text.empty())
+            break;
+        AppendCodePoint(result, PictureOf(ControlAt(text, 0)));
+        text.remove_prefix(BytesOfControl(ControlAt(text, 0)));
     }
     return result;
 }
