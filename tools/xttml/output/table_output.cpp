@@ -80,10 +80,13 @@ Row RunRow(const Sentence& run, std::size_t number, const std::string& text) {
 }
 
 /// All rows below the head.
-void VisitRows(const DisplaySequence& sequence, const ItemOrigins& origins, const RowVisitor& visit) {
+/// @param hasText whether the texts are wanted, too
+void VisitRows(const DisplaySequence& sequence, const ItemOrigins& origins, bool hasText,
+               const RowVisitor& visit) {
     std::size_t number = 0;
     for (const DisplayItem* const item : sequence.Items()) {
-        const auto pieces = render::ReadPieces(item, render::WhiteSpace::COLLAPSED);
+        const auto pieces = hasText ? render::ReadPieces(item, render::WhiteSpace::COLLAPSED)
+                                    : std::vector<render::TextPiece>(Runs(*item).size());
         Row row =
             ItemRow(*item, sequence.SpanOf(*item), origins.Of(*item), sequence.Images(), TextOf(pieces));
         row[NUMBER] = std::to_string(++number);
@@ -103,7 +106,7 @@ void Widen(Widths& widths, const Row& row) {
 /// The widths of the columns that hold something, their heads included.
 Widths WidthsOf(const DisplaySequence& sequence, const ItemOrigins& origins) {
     Widths widths{};
-    VisitRows(sequence, origins, [&widths](const Row& row) { Widen(widths, row); });
+    VisitRows(sequence, origins, false, [&widths](const Row& row) { Widen(widths, row); });
     Row heads = HeadRow();
     for (std::size_t column = 0; column < TEXT; ++column)
         if (widths[column] == 0)
@@ -118,11 +121,12 @@ std::string Line(const Row& row, const Widths& widths) {
         if (widths[column] == 0)
             continue;
         const std::size_t width = CodePoints(row[column]);
-        const std::string padding(widths[column] > width ? widths[column] - width : 0, ' ');
-        line += column == NUMBER ? padding + row[column] : row[column] + padding;
+        const std::size_t padding = widths[column] > width ? widths[column] - width : 0;
+        const bool isRight = column == NUMBER;
+        line.append(isRight ? padding : 0, ' ').append(row[column]).append(isRight ? 0 : padding, ' ');
         line += "  ";
     }
-    return line + row[TEXT] + '\n';
+    return line.append(row[TEXT]).append(1, '\n');
 }
 
 } // namespace
@@ -130,7 +134,7 @@ std::string Line(const Row& row, const Widths& widths) {
 void WriteTable(StandardOutput& output, const DisplaySequence& sequence, const ItemOrigins& origins) {
     const Widths widths = WidthsOf(sequence, origins);
     output.Write(Line(HeadRow(), widths));
-    VisitRows(sequence, origins, [&](const Row& row) { output.Write(Line(row, widths)); });
+    VisitRows(sequence, origins, true, [&](const Row& row) { output.Write(Line(row, widths)); });
 }
 
 } // namespace xttml
