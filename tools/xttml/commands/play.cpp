@@ -25,16 +25,17 @@ struct Change {
 
 /// In the order in which they are told: at a time what has gone, then what has come.
 using Changes = std::vector<Change>;
-using ChangeText = std::function<std::string(const Change&)>;
+/// The line of a change; the item as a text.
+using ChangeText = std::function<std::string(const Change&, const std::string& item)>;
+using ItemText = std::function<std::string(const DisplayItem&)>;
 
-std::string ToLine(const Change& change, const DisplaySequence& sequence) {
-    return FormatTime(change.time) + (change.comes ? "  +  " : "  -  ") +
-           ScreenLine(*change.item, sequence.Images()) + '\n';
+std::string ToLine(const Change& change, const std::string& item) {
+    return FormatTime(change.time) + (change.comes ? "  +  " : "  -  ") + item + '\n';
 }
 
-std::string ToJsonLine(const Change& change, JsonItems& items) {
+std::string ToJsonLine(const Change& change, const std::string& item) {
     return fmt::format("{{\"time\":{},\"change\":\"{}\",\"item\":{}}}\n", change.time,
-                       change.comes ? "comes" : "goes", items.ToText(*change.item));
+                       change.comes ? "comes" : "goes", item);
 }
 
 /// What happens to all that is on screen, from a time on.
@@ -76,17 +77,24 @@ Changes ChangesOfFirst(const DisplaySequence& sequence, MediaTime from) {
 /// Writes changes, in real time when asked to.
 class ChangeWriter {
 public:
-    ChangeWriter(StandardOutput& output, ChangeText toText, std::optional<MediaTime> realtimeFrom)
-        : output_(output), toText_(std::move(toText)), realtimeFrom_(realtimeFrom),
-          start_(std::chrono::steady_clock::now()) {}
+    ChangeWriter(StandardOutput& output, ChangeText toText, ItemText itemText,
+                 std::optional<MediaTime> realtimeFrom)
+        : output_(output), toText_(std::move(toText)), itemText_(std::move(itemText)),
+          realtimeFrom_(realtimeFrom), start_(std::chrono::steady_clock::now()) {}
 
     void Write(const Change& change) {
         if (realtimeFrom_)
             WaitUntil(change.time);
-        output_.Write(toText_(change));
+        output_.Write(toText_(change, TextOf(change.item)));
     }
 
 private:
+    /// Most items go before another comes.
+    const std::string& TextOf(const DisplayItem* item) {
+        if (std::exchange(item_, item) != item)
+            text_ = itemText_(*item);
+        return text_;
+    }
     void WaitUntil(MediaTime time) {
         if (std::exchange(now_, time) == time)
             return;
@@ -96,6 +104,9 @@ private:
 
     StandardOutput& output_;
     ChangeText toText_;
+    ItemText itemText_;
+    const DisplayItem* item_ = nullptr;
+    std::string text_; // of that item
     std::optional<MediaTime> realtimeFrom_;
     std::chrono::steady_clock::time_point start_;
     std::optional<MediaTime> now_;
@@ -119,10 +130,11 @@ void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& 
     const std::optional<MediaTime> to = TimeOf(options.to, document);
     const ItemOrigins origins = options.json ? document.Origins() : ItemOrigins();
     JsonItems items(sequence, origins, options.detail);
-    const ChangeText toText = [&](const Change& change) {
-        return options.json ? ToJsonLine(change, items) : ToLine(change, sequence);
+    const ItemText itemText = [&](const DisplayItem& item) {
+        return options.json ? items.ToText(item) : ScreenLine(item, sequence.Images());
     };
-    ChangeWriter writer(output, toText, options.realtime ? std::optional(from) : std::nullopt);
+    ChangeWriter writer(output, options.json ? ToJsonLine : ToLine, itemText,
+                        options.realtime ? std::optional(from) : std::nullopt);
     const Changes changes =
         options.query == Query::ALL ? ChangesOfAll(sequence, from) : ChangesOfFirst(sequence, from);
     const auto end = std::find_if(changes.begin(), changes.end(),
