@@ -1,5 +1,6 @@
 // A player in C++: reads items, colours and lengths, and catches what the library lets pass.
 #include <x_ttml.h>
+#include <x_ttml_items.h>
 
 #include <cstdio>
 #include <string>
@@ -13,6 +14,19 @@ static void expect(bool holds, int line, const char* what) {
     }
 }
 #define EXPECT(condition) expect((condition), __LINE__, #condition)
+
+// What programs were built with.
+static void numbers() {
+    const int statuses[] = {
+        X_TTML_OK,        X_TTML_NO_ROOT_ELEMENT, X_TTML_UNREADABLE,    X_TTML_MALFORMED, X_TTML_REFUSED,
+        X_TTML_BAD_VALUE, X_TTML_NO_IMAGE_DATA,   X_TTML_OUT_OF_MEMORY, X_TTML_FAILED};
+    const int given[] = {X_TTML_GIVEN_COLOR,           X_TTML_GIVEN_FONT_SIZE,   X_TTML_GIVEN_FONT_WEIGHT,
+                         X_TTML_GIVEN_FONT_STYLE,      X_TTML_GIVEN_LINE_HEIGHT, X_TTML_GIVEN_TEXT_ALIGN,
+                         X_TTML_GIVEN_TEXT_DECORATION, X_TTML_GIVEN_VISIBILITY,  X_TTML_GIVEN_DISPLAY_ALIGN};
+    for (int i = 0; i < 9; ++i)
+        EXPECT(statuses[i] == i && given[i] == 1 << i);
+    EXPECT(X_TTML_NO_ITEM == 0 && X_TTML_TEXT_ITEM == 1 && X_TTML_IMAGE_ITEM == 2);
+}
 
 static const std::string head = "<tt xmlns:tts='http://www.w3.org/ns/ttml#styling' "
                                 "xmlns:c='http://www.decellc.org/schema/2012/01/cff-tt-meta'><body><div>";
@@ -78,6 +92,7 @@ static void exceptions(x_ttml_handle parser) {
 
 int main() {
     x_ttml_handle parser = nullptr;
+    numbers();
     x_ttml_init_xerces();
     x_ttml_create_new_parser(&parser);
     items(parser);

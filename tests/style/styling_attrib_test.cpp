@@ -18,7 +18,14 @@ TEST(StylingAttrib, StartsWithTheDefaults) {
     EXPECT_EQ(attrib.uFontSize | attrib.uLineHeight | attrib.uReserved4 | attrib.uReserved6, 0U);
     for (const ReservedPair& pair : attrib.aReservedPairs)
         EXPECT_EQ(pair.uFirst | pair.uSecond, 0U);
-    EXPECT_FALSE(attrib.fgColorSet || attrib.fgFontSizeSet || attrib.fgDisplayAlignSet);
+    EXPECT_EQ(attrib.iReserved1 | attrib.iReserved2 | attrib.iReserved3 | attrib.iReserved5, 0);
+    EXPECT_EQ(attrib.iFontStyle | attrib.iFontWeight | attrib.iVisibility, 0);
+    EXPECT_EQ(attrib.eDisplayAlign + attrib.eTextAlign + attrib.eTextDecoration, 0);
+    for (const bool flag :
+         {attrib.fgColorSet, attrib.fgFontSizeSet, attrib.fgFontWeightSet, attrib.fgFontStyleSet,
+          attrib.fgLineHeightSet, attrib.fgReserved1, attrib.fgTextAlignSet, attrib.fgReserved2,
+          attrib.fgTextDecorationSet, attrib.fgVisibilitySet, attrib.fgDisplayAlignSet})
+        EXPECT_FALSE(flag);
 }
 
 TEST(StylingAttrib, AMoveIsACopy) {

@@ -49,17 +49,21 @@ TEST(Loading, FromAFileReportsEveryStep) {
         const char* content;
         const char* lastSteps;
         const char* outcome; // its beginning, after the path where there is no document
+        LoadFault::Kind fault;
     } cases[] = {
-        {NAMESPACED, "parse OK\nadoptDocument OK\n", "urn:tt tt"},
-        {"<tt>", "SAXException catched\n", ": Xerces SAX error while loading: "},
+        {NAMESPACED, "parse OK\nadoptDocument OK\n", "urn:tt tt", LoadFault::NONE},
+        {"<tt>", "SAXException catched\n", ": Xerces SAX error while loading: ", LoadFault::MALFORMED},
         {"<?xml version='1.4'?><!DOCTYPE tt [<!ENTITY e 'text'><!ELEMENT ", "DOMException catched\n",
-         ": Xerces DOM error while loading"},
+         ": Xerces DOM error while loading", LoadFault::MALFORMED},
     };
     for (const auto& test : cases) {
         const TemporaryFile file(test.content);
         std::string outcome;
-        EXPECT_EQ(CapturedOutput([&] { outcome = Outcome([&] { return Tree::LoadDocument(file.path); }); }),
+        LoadFault fault;
+        const auto load = [&] { return Tree::LoadDocument(file.path, {false, &fault}); };
+        EXPECT_EQ(CapturedOutput([&] { outcome = Outcome(load); }),
                   std::string(STEPS_BEFORE_PARSING) + test.lastSteps);
+        EXPECT_EQ(fault.kind, test.fault);
         EXPECT_EQ(outcome.find((test.outcome[0] == ':' ? file.path : "") + test.outcome), 0U) << outcome;
     }
     std::string outcome;
