@@ -227,7 +227,7 @@ TEST_F(ImageSequence, KeepsABlockWhileItemsPointIntoIt) {
         vHandOver(strPng(2000));
     vGenerate(strDivision("1.png"));
     for (int i = 0; i < 10; ++i)
-        vHandOver(strPng(2000));
+        vHandOver(strPng(3000));
     EXPECT_EQ(std::string(first.pImageData, first.pImageData + first.iImageDataSize), strPng(1000));
     const auto& second = dynamic_cast<const ImageItem&>(rItem(1));
     EXPECT_EQ(std::string(second.pImageData, second.pImageData + second.iImageDataSize), strPng(2000));
