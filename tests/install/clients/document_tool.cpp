@@ -1,4 +1,5 @@
-// A tool that reads, checks and writes attributes of XML Schema types, with members and facets of its own.
+// A tool that edits a document through the installed document model, reads, checks and writes attributes of
+// XML Schema types with members and facets of its own, and saves it.
 #include <x_ttml.h>
 
 #include <xttml/binding/ttaf1_dfxp.h>
@@ -52,13 +53,27 @@ static void use_values() {
     delete lasts;
 }
 
+static void shift_first_paragraph(const ttaf1_dfxp::tt::Cdiv_eltype& division) {
+    const auto paragraph = division.p.first();
+    std::printf("%s to %s: %s\n", std::string(paragraph.begin).c_str(), std::string(paragraph.end).c_str(),
+                std::string(paragraph).c_str());
+    Tree::SetAttribute(paragraph.GetNode(), "begin", "", "5s");
+    try {
+        static_cast<void>(static_cast<bool>(division.forcedDisplayMode));
+    } catch (const tessera::InvalidOperationException& error) {
+        std::puts(error.message().c_str());
+    }
+}
+
 int main() {
     x_ttml_init_xerces();
     auto document = ttaf1_dfxp::tt::Cttaf1_dfxp::LoadFromString(
         "<tt xmlns='http://www.w3.org/ns/ttml' xmlns:k='urn:k' made='2024-02-28T10:00:00Z' lasts='P1DT2H' "
-        "kind='k:a'/>");
+        "kind='k:a'><body><div><p begin='1s' end='2s'>text</p></div></body></tt>");
     rewrite_attributes(document.tt.first().GetNode());
     use_values();
+    shift_first_paragraph(document.tt.first().body.first().div.first());
+    std::printf("%s\n", document.SaveToString(false).c_str());
     document.DestroyDocument();
     x_ttml_uninit_xerces();
 }
