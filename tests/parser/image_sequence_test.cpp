@@ -67,6 +67,8 @@ TEST_F(ImageSequence, CutsABlock) {
         strExpected += i < 30 ? std::to_string(i * 10) + "+10 " : "";
     }
     EXPECT_EQ(strCut(strMany), strExpected);
+    vHandOver(strPng(10));
+    EXPECT_EQ(strTable(), "") << "of a block that is not cut yet";
 }
 
 TEST_F(ImageSequence, CutsNothingFromNoBlock) {

@@ -92,6 +92,7 @@ TEST(DateTimes, AreReadAndPrinted) {
         {"0000-12-31T23:59:59.9", CoreTypes::FormatSeconds, "-0.1"},
         {"0001-01-01", CoreTypes::FormatSeconds, "0"},
         {"0001-01-01", CoreTypes::FormatDays, "0"},
+        {"0001-01-01T23:59:59.9999999", CoreTypes::FormatDays, "0.9999999"},
         {"0001-01-03T18:00:00", CoreTypes::FormatDays, "2.75"},
         {"0000-12-30T12:00:00Z", CoreTypes::FormatDays, "-1.5Z"},
     };
