@@ -60,6 +60,7 @@ class Completion(unittest.TestCase):
             (["list", ""], FILES),
             (["save", "film.ttml", "-o", ""], FILES),
             (["list", "--images", "b"], FILES),
+            (["render", "--over", "f"], FILES),
             (["extract", "--to", "p"], FOLDERS),
             (["convert", "--offset", ""], NOTHING),
             (["convert", "film.ttml", "--to", ""], ["srt", "vtt", "ass", "txt"]),

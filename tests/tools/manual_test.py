@@ -24,7 +24,7 @@ class Manual(unittest.TestCase):
         self.words = set(re.findall(r"[\w-]+", PAGE.read_text().replace("\\-", "-")))
 
     def test_knows_every_option(self):
-        for command in ("list", "at", "play", "extract", "convert", "save"):
+        for command in ("list", "at", "play", "extract", "convert", "render", "timeline", "save"):
             for option in re.findall(r"--[a-z][a-z-]+", output_of(command, "--help")):
                 self.assertIn(option, self.words)
 

@@ -22,6 +22,8 @@ Examples:
   xttml list film.ttml --images film.png  image subtitles with their block of PNG files
   xttml extract film.ttml --images film.png --to pictures
   xttml convert film.ttml -o film.srt     for players that do not read TTML
+  xttml render film.ttml 00:01:00 -o film.png
+  xttml timeline film.ttml -o film.svg    when its items are on screen
   xttml save film.ttml -o film16.ttml --encoding UTF-16
 
 )";

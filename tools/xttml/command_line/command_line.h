@@ -9,7 +9,9 @@
 #include "tools/xttml/formats/format_table.h"
 #include "tools/xttml/output/json_output.h"
 #include "tools/xttml/output/output_file.h"
+#include "tools/xttml/pictures/picture_look.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <variant>
@@ -57,6 +59,29 @@ struct ConvertOptions {
     ExistingFile existing = ExistingFile::KEPT;
 };
 
+/// xttml render FILE TIME...
+struct RenderOptions {
+    std::vector<WrittenTime> times;
+    std::string file; ///< "-" is standard output; with several times a % in its name stands for each
+    PictureLook look;
+    ExistingFile existing = ExistingFile::KEPT;
+};
+
+/// xttml render FILE --sheet OUT
+struct SheetOptions {
+    std::string file; ///< "-" is standard output; for several sheets a % in its name stands for each
+    std::size_t columns = 6;
+    PictureLook look; ///< of each item
+    ExistingFile existing = ExistingFile::KEPT;
+};
+
+/// xttml timeline
+struct TimelineOptions {
+    std::string file;   ///< "-" is standard output
+    bool isPng = false; ///< otherwise SVG
+    ExistingFile existing = ExistingFile::KEPT;
+};
+
 /// xttml save
 struct SaveOptions {
     std::string file; ///< "-" is standard output
@@ -68,7 +93,9 @@ struct SaveOptions {
 struct Invocation {
     std::vector<Input> inputs; ///< what the command runs on, one after the other
     bool verbose = false;
-    std::variant<ListOptions, AtOptions, PlayOptions, ExtractOptions, ConvertOptions, SaveOptions> command;
+    std::variant<ListOptions, AtOptions, PlayOptions, ExtractOptions, ConvertOptions, RenderOptions,
+                 SheetOptions, TimelineOptions, SaveOptions>
+        command;
 };
 
 /// Text to show instead of running a command.

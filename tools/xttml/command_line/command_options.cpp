@@ -1,22 +1,12 @@
 #include "tools/xttml/command_line/command_options.h"
 
+#include "tools/xttml/command_line/picture_options.h"
+#include "tools/xttml/command_line/shared_options.h"
 #include "tools/xttml/text/media_time.h"
 
 namespace xttml {
 
 namespace {
-
-const CLI::Validator timeFormat(
-    [](const std::string& text) {
-        return ParseTime(text) ? "" : "'" + text + "' is not a time such as 1500, 1.5s or 00:00:01.500";
-    },
-    "");
-
-const CLI::Validator integerFormat(
-    [](const std::string& text) {
-        return ParseInteger(text) ? "" : "'" + text + "' is not a whole number of 32 bits";
-    },
-    "");
 
 const CLI::Validator stepFormat(
     [](const std::string& text) {
@@ -33,36 +23,6 @@ const CLI::Validator formatName(
 
 // Options of more than one command.
 
-CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& description,
-                     Arguments& arguments) {
-    CLI::App* const command = app.add_subcommand(name, description);
-    command->footer(exitCodes);
-    command->add_flag("--trusted", arguments.trusted,
-                      "The document may have a document type declaration, name others and be of any size");
-    command->add_flag("--verbose", arguments.verbose, "Show the library's own lines on standard error");
-    return command;
-}
-
-/// @param files one name or several
-template <class Files>
-void AddFile(CLI::App& command, Files& files) {
-    command.add_option("FILE", files, "The document; - for standard input")->required()->type_name("");
-}
-
-CLI::Option* AddImages(CLI::App& command, Arguments& arguments) {
-    return command
-        .add_option("--images", arguments.images,
-                    "The block of PNG files of image subtitles; given again, a block's next part")
-        ->allow_extra_args(false)
-        ->type_name("BLOCK");
-}
-
-void AddOffset(CLI::App& command, Arguments& arguments) {
-    command.add_option("--offset", arguments.offset, "Milliseconds added to every time")
-        ->check(integerFormat)
-        ->type_name("MS");
-}
-
 void AddJson(CLI::App& command, Arguments& arguments, const std::string& description) {
     CLI::Option* const json = command.add_flag("--json", arguments.json, description);
     command.add_flag("--full", arguments.full, "JSON with every field, used or not")->needs(json);
@@ -71,21 +31,6 @@ void AddJson(CLI::App& command, Arguments& arguments, const std::string& descrip
 void AddFirst(CLI::App& command, Arguments& arguments) {
     command.add_flag("--first", arguments.first,
                      "Only the first item on screen and those right after it with the same times");
-}
-
-void AddForce(CLI::App& command, Arguments& arguments) {
-    command.add_flag("--force", arguments.force, "Replace what is there");
-}
-
-void AddOutput(CLI::App& command, Arguments& arguments) {
-    command.add_option("-o,--output", arguments.target, "The file to write; - for standard output")
-        ->required()
-        ->type_name("OUT");
-}
-
-CLI::Option* AddTime(CLI::App& command, const std::string& name, std::string& time,
-                     const std::string& description) {
-    return command.add_option(name, time, description)->check(timeFormat)->type_name("TIME");
 }
 
 // The commands.
@@ -102,20 +47,13 @@ Command AddList(CLI::App& app, Arguments& arguments) {
 }
 
 AtOptions MakeAtOptions(const Arguments& arguments) {
-    AtOptions options{{}, arguments.HowAsked(), arguments.combine, arguments.json, arguments.HowMuch()};
-    for (const std::string& time : arguments.times)
-        options.times.push_back(ParseTime(time).value());
-    return options;
+    return {TimesOf(arguments), arguments.HowAsked(), arguments.combine, arguments.json, arguments.HowMuch()};
 }
 
 Command AddAt(CLI::App& app, Arguments& arguments) {
     CLI::App* const at = AddCommand(app, "at", "Show what is on screen at each time", arguments);
     AddFile(*at, arguments.file);
-    at->add_option("TIME", arguments.times,
-                   "1500 (milliseconds), 1.5s (also h, m, ms), 00:00:01.500 or, with frames, 00:00:01:12")
-        ->required()
-        ->check(timeFormat)
-        ->type_name("");
+    AddTimes(*at, arguments)->required();
     AddImages(*at, arguments);
     AddOffset(*at, arguments);
     AddFirst(*at, arguments);
@@ -184,7 +122,7 @@ Command AddConvert(CLI::App& app, Arguments& arguments) {
     CLI::App* const convert = AddCommand(
         app, "convert", "Write the subtitles in a format of players that do not read TTML", arguments);
     AddFile(*convert, arguments.file);
-    AddOutput(*convert, arguments);
+    AddOutput(*convert, arguments)->required();
     convert->add_option("--to", arguments.format, "The format (default: what OUT ends in)")
         ->check(formatName)
         ->type_name(FormatNames("|"));
@@ -205,7 +143,7 @@ Command AddSave(CLI::App& app, Arguments& arguments) {
     CLI::App* const save = AddCommand(app, "save", "Write the document anew", arguments);
     DocumentForm& form = arguments.form;
     AddFile(*save, arguments.file);
-    AddOutput(*save, arguments);
+    AddOutput(*save, arguments)->required();
     save->add_option("--encoding", form.encoding, "UTF-8 (default), UTF-16, UTF-16BE, ISO-8859-1, ...")
         ->type_name("NAME");
     save->add_flag("--bom", form.byteOrderMark, "With a byte order mark, as UTF-16 has it anyway");
@@ -219,8 +157,9 @@ Command AddSave(CLI::App& app, Arguments& arguments) {
 } // namespace
 
 std::vector<Command> AddCommands(CLI::App& app, Arguments& arguments) {
-    return {AddList(app, arguments),    AddAt(app, arguments),      AddPlay(app, arguments),
-            AddExtract(app, arguments), AddConvert(app, arguments), AddSave(app, arguments)};
+    return {AddList(app, arguments),     AddAt(app, arguments),      AddPlay(app, arguments),
+            AddExtract(app, arguments),  AddConvert(app, arguments), AddRender(app, arguments),
+            AddTimeline(app, arguments), AddSave(app, arguments)};
 }
 
 } // namespace xttml

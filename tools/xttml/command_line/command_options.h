@@ -25,6 +25,11 @@ struct Arguments {
     std::string target;
     std::string format;
     DocumentForm form;
+    std::string size;
+    std::string sheet;
+    std::size_t columns = SheetOptions().columns;
+    std::string background;
+    PictureLook look;
     bool json = false;
     bool full = false;
     bool first = false;

@@ -23,6 +23,15 @@ void RunCommand(const ExtractOptions& options, const Input& input, StandardOutpu
 /// Writes the text items in another format.
 void RunCommand(const ConvertOptions& options, const Input& input, StandardOutput& output);
 
+/// Writes a picture of the screen at each time.
+void RunCommand(const RenderOptions& options, const Input& input, StandardOutput& output);
+
+/// Writes pictures of all items.
+void RunCommand(const SheetOptions& options, const Input& input, StandardOutput& output);
+
+/// Writes a chart of when the items are on screen.
+void RunCommand(const TimelineOptions& options, const Input& input, StandardOutput& output);
+
 /// Writes the document anew.
 void RunCommand(const SaveOptions& options, const Input& input, StandardOutput& output);
 

@@ -6,7 +6,6 @@
 #include "tools/xttml/output/output_file.h"
 #include "tools/xttml/text/text_encoding.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fmt/format.h>
 #include <map>
@@ -27,8 +26,7 @@ class PictureNames {
 public:
     /// "00-00-01.000", with "-2" and so on for further items that begin then; "unknown" for an unknown time.
     std::string NameFor(std::optional<MediaTime> begin) {
-        std::string name = begin ? FormatTime(begin) : "unknown";
-        std::replace(name.begin(), name.end(), ':', '-');
+        const std::string name = TimeInFileName(begin);
         const int count = ++counts_[name];
         return count == 1 ? name : fmt::format("{}-{}", name, count);
     }

@@ -40,7 +40,7 @@ _xttml() {
         ;;
     *'|'*) words=${value//'|'/ } ;;
     DIR) compopt -o dirnames +o default ;;
-    OUT | BLOCK) ;;
+    OUT | BLOCK | FRAME) ;;
     *) compopt +o default ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")

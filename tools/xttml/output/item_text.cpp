@@ -51,6 +51,12 @@ std::string VisibleText(const DisplayItem& item, WhiteSpace whiteSpace) {
     return anyVisible ? TextOf(pieces) : std::string();
 }
 
+bool IsSeen(const DisplayItem& item) {
+    if (x_ttml_item_get_kind(&item) == X_TTML_IMAGE_ITEM)
+        return item.styling.iVisibility == 0 && !DataOf(item).empty();
+    return !VisibleText(item, WhiteSpace::COLLAPSED).empty();
+}
+
 std::string BoxText(const StylingAttrib& styling) {
     return fmt::format("{}x{}+{}+{}", styling.uExtentWidth, styling.uExtentHeight, styling.uOriginX,
                        styling.uOriginY);

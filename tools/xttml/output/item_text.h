@@ -28,6 +28,9 @@ std::string TextOf(const std::vector<render::TextPiece>& pieces);
 /// What a viewer sees, a line break as U+000A; empty when that is line breaks at most.
 std::string VisibleText(const DisplayItem& item, render::WhiteSpace whiteSpace);
 
+/// Whether there is anything of an item that a viewer sees.
+bool IsSeen(const DisplayItem& item);
+
 /// Where an area is: "WIDTHxHEIGHT+LEFT+TOP", in px.
 std::string BoxText(const StylingAttrib& styling);
 

@@ -73,7 +73,8 @@ fs::path TargetOf(const std::string& path) {
 
 void RequireRoomFor(const std::string& path, ExistingFile existing) {
     std::error_code ignored;
-    if (existing == ExistingFile::KEPT && fs::exists(path, ignored) && !IsSpecial(path))
+    if (existing == ExistingFile::KEPT && path != standardOutputPath && fs::exists(path, ignored) &&
+        !IsSpecial(path))
         throw UnusableFile(path, "exists; --force replaces it");
 }
 
@@ -90,7 +91,7 @@ void WriteFile(const std::string& path, std::string_view bytes, ExistingFile exi
 }
 
 void WriteTo(const std::string& path, std::string_view bytes, ExistingFile existing, StandardOutput& output) {
-    if (path == "-")
+    if (path == standardOutputPath)
         output.Write(bytes);
     else
         WriteFile(path, bytes, existing);

@@ -12,6 +12,9 @@ namespace xttml {
 /// What becomes of a file that is there already. Devices and pipes are written to in any case.
 enum class ExistingFile { KEPT, REPLACED };
 
+/// The path that stands for standard output.
+constexpr const char* standardOutputPath = "-";
+
 /// Throws UnusableFile when there is a file and it is to be kept.
 void RequireRoomFor(const std::string& path, ExistingFile existing);
 

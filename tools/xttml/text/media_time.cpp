@@ -1,5 +1,6 @@
 #include "tools/xttml/text/media_time.h"
 
+#include <algorithm>
 #include <charconv>
 #include <fmt/compile.h>
 #include <limits>
@@ -139,6 +140,12 @@ std::string FormatTime(std::optional<MediaTime> time) {
         fmt::format_to(text, FMT_COMPILE("{}{:02}:{:02}:{:02}.{:03}"), *time < 0 ? "-" : "", distance / hour,
                        distance / minute % 60, distance / second % 60, distance % second);
     return {text, end};
+}
+
+std::string TimeInFileName(std::optional<MediaTime> time) {
+    std::string name = time ? FormatTime(time) : "unknown";
+    std::replace(name.begin(), name.end(), ':', '-');
+    return name;
 }
 
 } // namespace xttml

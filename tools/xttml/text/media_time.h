@@ -32,6 +32,10 @@ std::optional<std::int32_t> ParseInteger(std::string_view text);
 /// hours:minutes:seconds.milliseconds with a minus sign in front of a negative time; "-" for an unknown time.
 std::string FormatTime(std::optional<MediaTime> time);
 
+/// A time as part of a file's name, whose order is that of the times up to 99 hours: "00-00-01.000";
+/// "unknown" for an unknown time.
+std::string TimeInFileName(std::optional<MediaTime> time);
+
 } // namespace xttml
 
 #endif

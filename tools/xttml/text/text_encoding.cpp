@@ -73,6 +73,10 @@ char32_t PictureOf(char32_t control) {
     return control < 0x20 ? controlPictures + control : replacementCharacter;
 }
 
+bool BeginsCodePoint(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
 } // namespace
 
 std::string Utf8FromUtf16(std::u16string_view text) {
@@ -114,9 +118,15 @@ std::string OnOneLine(std::string_view text) {
     return result;
 }
 
+std::string Shortened(std::string_view text, std::size_t codePoints) {
+    const auto end = std::find_if(text.begin(), text.end(),
+                                  [&codePoints](char c) { return BeginsCodePoint(c) && codePoints-- == 0; });
+    std::string shortened(text.begin(), end);
+    return end == text.end() ? shortened : shortened + "\u2026";
+}
+
 std::size_t CodePoints(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), BeginsCodePoint));
 }
 
 } // namespace xttml
