@@ -9,6 +9,8 @@
 #include <iostream>
 #include <utility>
 
+#include <malloc.h>
+
 namespace {
 
 double ProcessorSeconds() {
@@ -54,6 +56,11 @@ void Measure(benchmark::State& state, const Comparison& comparison, Current& cur
 }
 
 } // namespace
+
+void KeepFreedMemory() {
+    mallopt(M_MMAP_THRESHOLD, 32 << 20);
+    mallopt(M_TRIM_THRESHOLD, 1 << 30);
+}
 
 double Median(std::vector<double> values) {
     std::sort(values.begin(), values.end());

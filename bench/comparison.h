@@ -29,6 +29,10 @@ struct Comparison {
 /// @return the exit status: EXIT_FAILURE when a limit is passed
 int RunComparisons(int argc, char** argv, const std::vector<Comparison>& comparisons);
 
+/// Both sides then work on memory that the process already has. Otherwise each finds the pages that the other
+/// left or gave back, and page faults decide the ratio.
+void KeepFreedMemory();
+
 /// Prints a row of the table.
 /// @return whether the ratio keeps to the limit
 bool PrintRow(const std::string& name, double ratio, double limit);

@@ -3,6 +3,7 @@
 //
 //   hostile_benchmark [WORD]   only the families whose names hold the word
 #include "api/x_ttml_items.h"
+#include "bench/comparison.h"
 #include "bench/hostile_documents.h"
 #include "bench/subtitle_document.h"
 
@@ -10,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <string>
+#include <vector>
 
 #include <malloc.h>
 
@@ -17,8 +20,10 @@ namespace {
 
 constexpr double factorLimit = 20;
 constexpr double growthLimit = 2.3;
-constexpr int repetitions = 3;
+constexpr std::size_t fewestTurns = 5;
+constexpr double fewestSeconds = 0.2;
 
+/// Of a document, or of each of its bytes.
 struct Cost {
     double seconds; ///< of the processor, to load, generate and release
     double bytes;   ///< of memory, while the document and its items are held
@@ -52,41 +57,46 @@ Cost CostOnce(const std::string& text) {
     return {ProcessorSeconds() - start, held};
 }
 
-/// The fastest of some runs: what disturbs a run makes it slower.
-Cost CostOf(const std::string& text) {
-    Cost cost = CostOnce(text);
-    for (int i = 1; i < repetitions; ++i)
-        cost.seconds = std::min(cost.seconds, CostOnce(text).seconds);
-    return cost;
-}
-
 /// What a byte of an ordinary document costs.
 Cost OrdinaryCost() {
     const std::string text = SubtitleDocument(static_cast<int>(untrustedBytes / 260));
-    const Cost cost = CostOf(text);
+    std::vector<double> seconds;
+    for (std::size_t turn = 0; turn < fewestTurns; ++turn)
+        seconds.push_back(CostOnce(text).seconds);
     const auto size = static_cast<double>(text.size());
-    return {cost.seconds / size, cost.bytes / size};
+    return {Median(seconds) / size, CostOnce(text).bytes / size};
 }
 
-bool PrintRow(const std::string& family, const char* what, double ratio, double limit) {
-    const bool isKept = ratio <= limit;
-    std::printf("| %s, %s | %.2f | %.1f | %s|\n", family.c_str(), what, ratio, limit,
-                isKept ? "" : "passed ");
-    return isKept;
+struct Costs {
+    Cost cost;     ///< of a byte
+    double growth; ///< the time of twice the size over that of once
+};
+
+/// A document and one of half its size take turns.
+Costs CostsOf(const HostileFamily& family) {
+    const std::string half = family.make(untrustedBytes / 2);
+    const std::string whole = family.make(untrustedBytes);
+    const auto size = static_cast<double>(whole.size());
+    const double halves = 2 * static_cast<double>(half.size()) / size;
+    std::vector<double> seconds;
+    std::vector<double> growths;
+    double bytes = 0;
+    for (double spent = 0; seconds.size() < fewestTurns || spent < fewestSeconds; spent += seconds.back()) {
+        const double halfSeconds = CostOnce(half).seconds;
+        const Cost cost = CostOnce(whole);
+        seconds.push_back(cost.seconds);
+        growths.push_back(cost.seconds / halfSeconds * halves);
+        bytes = cost.bytes;
+    }
+    return {{Median(seconds) / size, bytes / size}, Median(growths)};
 }
 
 bool Compare(const HostileFamily& family, const Cost& ordinary) {
-    const std::string half = family.make(untrustedBytes / 2);
-    const std::string whole = family.make(untrustedBytes);
-    const Cost halfCost = CostOf(half);
-    const Cost cost = CostOf(whole);
-    const auto size = static_cast<double>(whole.size());
-    const double growth = cost.seconds / halfCost.seconds * 2 * static_cast<double>(half.size()) / size;
-    const bool isKept[] = {PrintRow(family.name, "time : an ordinary document",
-                                    cost.seconds / (ordinary.seconds * size), factorLimit),
-                           PrintRow(family.name, "memory : an ordinary document",
-                                    cost.bytes / (ordinary.bytes * size), factorLimit),
-                           PrintRow(family.name, "time for twice the size", growth, growthLimit)};
+    const auto [cost, growth] = CostsOf(family);
+    const bool isKept[] = {
+        PrintRow(family.name + ", time : an ordinary document", cost.seconds / ordinary.seconds, factorLimit),
+        PrintRow(family.name + ", memory : an ordinary document", cost.bytes / ordinary.bytes, factorLimit),
+        PrintRow(family.name + ", time for twice the size", growth, growthLimit)};
     return std::all_of(std::begin(isKept), std::end(isKept), [](bool kept) { return kept; });
 }
 
@@ -94,6 +104,7 @@ bool Compare(const HostileFamily& family, const Cost& ordinary) {
 
 int main(int argc, char** argv) {
     const std::string word = argc > 1 && argv[1][0] != '-' ? argv[1] : "";
+    KeepFreedMemory();
     x_ttml_drop_lines();
     x_ttml_init_xerces();
     const Cost ordinary = OrdinaryCost();

@@ -10,8 +10,6 @@
 #include <memory>
 #include <string>
 
-#include <malloc.h>
-
 namespace {
 
 constexpr struct {
@@ -67,13 +65,6 @@ std::vector<Comparison> Comparisons() {
         {"closing and deleting : load and generate, " + std::to_string(closingSize) + " paragraphs",
          closingLimit, ClosingOverLoading});
     return comparisons;
-}
-
-/// Both sides then work on memory that the process already has. Otherwise each finds the pages that the other
-/// left or gave back, and page faults decide the ratio.
-void KeepFreedMemory() {
-    mallopt(M_MMAP_THRESHOLD, 32 << 20);
-    mallopt(M_TRIM_THRESHOLD, 1 << 30);
 }
 
 bool ComparePeakMemory() {

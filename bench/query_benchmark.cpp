@@ -49,7 +49,7 @@ public:
         if (x_ttml_load_subtitle_from_data(handle, text.data(), static_cast<uint32_t>(text.size())) !=
             X_TTML_OK)
             std::abort();
-        const int expected = order == Order::CUT_OFF ? X_TTML_BAD_VALUE : X_TTML_OK;
+        const int expected = order == Order::CUT_OFF ? int(X_TTML_BAD_VALUE) : int(X_TTML_OK);
         if (x_ttml_try_generate_text(handle, 0) != expected)
             std::abort();
         x_ttml_destory_doc(handle);
