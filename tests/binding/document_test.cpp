@@ -53,6 +53,9 @@ TEST_F(Document, SavesInTheEncodingAskedFor) {
         const Bytes bytes = document.root.SaveToBinary(false, c.encoding);
         ASSERT_GE(bytes.size(), c.start.size());
         EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(c.start.size())), c.start);
+        auto again = Cttaf1_dfxp::LoadFromBinary(bytes);
+        EXPECT_EQ(std::string(again.tt.first().lang), "en");
+        again.DestroyDocument();
         document.root.SaveToFile(file.path, false, c.encoding);
         EXPECT_EQ(file.Bytes(), bytes);
     }

@@ -93,6 +93,7 @@ TEST_F(TextSequence, PointsIntoTheTables) {
     EXPECT_EQ(rItem(0).pRegionAttrib, parser.prGetRegionByID("r"));
     EXPECT_EQ(rItem(0).pStyleAttrib, parser.prGetStyleByID("big"));
     EXPECT_NE(rItem(0).pStyleAttrib, nullptr);
+    EXPECT_EQ(parser.rGetRegionByID("r").strId + parser.rGetStyleByID("big").strId, "rbig");
     for (std::size_t i : {1U, 2U}) {
         EXPECT_EQ(rItem(i).pRegionAttrib, nullptr);
         EXPECT_EQ(rItem(i).pStyleAttrib, nullptr);

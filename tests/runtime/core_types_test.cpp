@@ -203,6 +203,10 @@ TEST(CoreTypes, StringsOfOtherValues) {
     EXPECT_EQ(CoreTypes::CastToString(INT64_LOWEST), "-9223372036854775808");
     EXPECT_EQ(CoreTypes::CastToString(UINT64_LARGEST), "18446744073709551615");
     EXPECT_EQ(CoreTypes::CastToString(std::vector<unsigned char>{'M', 'a'}), "TWE=");
+    EXPECT_EQ(CoreTypes::FormatBase64({'M'}) + CoreTypes::BinaryToBase64String({'M'}) +
+                  CoreTypes::BinaryToHexString({'M'}),
+              "TQ==TQ==4D");
+    EXPECT_EQ(CoreTypes::ParseBase64Binary("TQ=="), CoreTypes::ParseHexBinary("4D"));
     EXPECT_EQ(CoreTypes::CastToString(QName("urn:x", "tt:p")), "tt:p");
     EXPECT_EQ(CoreTypes::CastToQName("{urn:x}p").uri, "urn:x");
     EXPECT_EQ(CoreTypes::FormatNumber(7, 3) + CoreTypes::FormatFraction(50, 4) +

@@ -13,7 +13,7 @@ namespace {
 const std::map<std::string, const FacetCheck*> CHECKS = {XTTML_FACET_CHECKS(XTTML_NAME_CHECK)};
 
 // A small model: 0 token, collapsed, one word of two, at most six bytes; 1 derived from it, at least two
-// bytes; 2 without a base or facets.
+// bytes; 2 without a base or facets; 3 derived from 0, as it stands.
 extern const InfoBinder BINDER;
 const FacetInfo FACETS[] = {
     {nullptr, "pattern", "never checked", 0},
@@ -29,6 +29,7 @@ const TypeInfo TYPES[] = {
     {&BINDER, 0, "word", -1, 0, 0, 0, WhitespaceType::COLLAPSE, nullptr},
     {&BINDER, 0, "longWord", 0, 0, 0, 5, WhitespaceType::INHERITED, nullptr},
     {&BINDER, 0, "anything", -1, 0, 0, -1, WhitespaceType::INHERITED, nullptr},
+    {&BINDER, 0, "verbatim", 0, 0, 0, -1, WhitespaceType::PRESERVE, nullptr},
     {nullptr, 0, nullptr, 0, 0, 0, 0, WhitespaceType::INHERITED, nullptr},
 };
 const InfoBinder BINDER = {nullptr, TYPES, nullptr, FACETS};
@@ -124,4 +125,5 @@ TEST(Facets, ValidateATypeAndItsBases) {
     }
     EXPECT_EQ(XsSchemaValidation::ResolveWhitespace(TYPES[1]), WhitespaceType::COLLAPSE);
     EXPECT_EQ(XsSchemaValidation::ResolveWhitespace(TYPES[2]), WhitespaceType::PRESERVE);
+    EXPECT_EQ(XsSchemaValidation::ResolveWhitespace(TYPES[3]), WhitespaceType::PRESERVE);
 }
