@@ -15,6 +15,9 @@ EXAMPLES = ROOT / "examples"
 
 DONE, FAILED, WRONG_USAGE = 0, 1, 2
 
+# Fontconfig keeps some 300 bytes for ever.
+os.environ.setdefault("LSAN_OPTIONS", f"print_suppressions=0:suppressions='{ROOT}/tests/tools/abandoned_memory.txt'")
+
 SANITIZER_REPORT = re.compile(rb"ERROR: (Address|Leak)Sanitizer|runtime error:")
 LIBRARY_LINE = re.compile(
     rb"^(Initialize Xerces|Terminate Xerces|loadFromFile |load from file|LoadFromFile|XercesTree|declare parser"
