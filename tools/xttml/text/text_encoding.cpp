@@ -52,15 +52,15 @@ char32_t TakeCodePoint(std::u16string_view text, std::size_t& position) {
 }
 
 /// Whether a control character may begin with a byte.
-bool MayBeginControl(char byte) {
-    return (byte >= 0 && byte < 0x20) || byte == 0x7F || byte == '\xC2';
+bool MayBeginControl(unsigned char byte) {
+    return byte < 0x20 || byte == 0x7F || byte == 0xC2;
 }
 
 /// The position of the first control character; the end of a text without one.
 std::size_t FindControl(std::string_view text) {
     std::size_t position = 0;
-    while (position < text.size() &&
-           (!MayBeginControl(text[position]) || ControlAt(text, position) == noControl))
+    while (position < text.size() && (!MayBeginControl(static_cast<unsigned char>(text[position])) ||
+                                      ControlAt(text, position) == noControl))
         ++position;
     return position;
 }
