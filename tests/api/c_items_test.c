@@ -212,7 +212,7 @@ static void records(const DisplayItem *item) {
     unsigned char new_program[sizeof s + 8];
     const uint32_t sizes[] = {sizeof old_program - 4, sizeof new_program};
     s.size = sizeof s;
-    EXPECT(x_ttml_item_get_styling(item, &s) && s.size == sizeof s);
+    EXPECT(x_ttml_item_get_styling(item, &s) == 1 && s.size == sizeof s);
     EXPECT(strcmp(s.color_text, "rgb(1,2,3)") == 0 && strcmp(s.background_color_text, "transparent") == 0);
     EXPECT(s.color.red == 1 && s.color.green == 2 && s.color.blue == 3 && s.color.alpha == 255);
     EXPECT(s.background_color.red == 0 && s.background_color.alpha == 0);
