@@ -6,7 +6,8 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
+#include <utility>
+#include <vector>
 
 namespace xttml {
 
@@ -16,7 +17,6 @@ enum Column { NUMBER, BEGIN, END, BOX, COLOR, BACKGROUND, FONT, ALIGN, ID, REGIO
 
 using Row = std::array<std::string, COLUMNS>;
 using Widths = std::array<std::size_t, COLUMNS>; // 0: the column is left out
-using RowVisitor = std::function<void(const Row&)>;
 
 constexpr std::size_t widestColumn = 32;
 
@@ -80,22 +80,21 @@ Row RunRow(const Sentence& run, std::size_t number, const std::string& text) {
 }
 
 /// All rows below the head.
-/// @param hasText whether the texts are wanted, too
-void VisitRows(const DisplaySequence& sequence, const ItemOrigins& origins, bool hasText,
-               const RowVisitor& visit) {
+std::vector<Row> RowsOf(const DisplaySequence& sequence, const ItemOrigins& origins) {
+    std::vector<Row> rows;
     std::size_t number = 0;
     for (const DisplayItem* const item : sequence.Items()) {
-        const auto pieces = hasText ? render::ReadPieces(item, render::WhiteSpace::COLLAPSED)
-                                    : std::vector<render::TextPiece>(Runs(*item).size());
+        const auto pieces = render::ReadPieces(item, render::WhiteSpace::COLLAPSED);
         Row row =
             ItemRow(*item, sequence.SpanOf(*item), origins.Of(*item), sequence.Images(), TextOf(pieces));
         row[NUMBER] = std::to_string(++number);
-        visit(row);
+        rows.push_back(std::move(row));
         const std::vector<Sentence*>& runs = Runs(*item);
         for (std::size_t j = 0; j < runs.size(); ++j)
             if (runs[j]->pStylingAttrib)
-                visit(RunRow(*runs[j], j + 1, pieces[j].text));
+                rows.push_back(RunRow(*runs[j], j + 1, pieces[j].text));
     }
+    return rows;
 }
 
 void Widen(Widths& widths, const Row& row) {
@@ -104,9 +103,10 @@ void Widen(Widths& widths, const Row& row) {
 }
 
 /// The widths of the columns that hold something, their heads included.
-Widths WidthsOf(const DisplaySequence& sequence, const ItemOrigins& origins) {
+Widths WidthsOf(const std::vector<Row>& rows) {
     Widths widths{};
-    VisitRows(sequence, origins, false, [&widths](const Row& row) { Widen(widths, row); });
+    for (const Row& row : rows)
+        Widen(widths, row);
     Row heads = HeadRow();
     for (std::size_t column = 0; column < TEXT; ++column)
         if (widths[column] == 0)
@@ -115,26 +115,44 @@ Widths WidthsOf(const DisplaySequence& sequence, const ItemOrigins& origins) {
     return widths;
 }
 
-std::string Line(const Row& row, const Widths& widths) {
-    std::string line;
-    for (std::size_t column = 0; column < TEXT; ++column) {
-        if (widths[column] == 0)
-            continue;
-        const std::size_t width = CodePoints(row[column]);
-        const std::size_t padding = widths[column] > width ? widths[column] - width : 0;
-        const bool isRight = column == NUMBER;
-        line.append(isRight ? padding : 0, ' ').append(row[column]).append(isRight ? 0 : padding, ' ');
-        line += "  ";
+/// Writes rows, all on the same string.
+class LineWriter {
+public:
+    LineWriter(StandardOutput& output, const Widths& widths) : output_(output), widths_(widths) {}
+
+    void Write(const Row& row) {
+        line_.clear();
+        for (std::size_t column = 0; column < TEXT; ++column)
+            if (widths_[column] != 0)
+                Append(row[column], widths_[column], column == NUMBER);
+        line_ += row[TEXT];
+        line_ += '\n';
+        output_.Write(line_);
     }
-    return line.append(row[TEXT]).append(1, '\n');
-}
+
+private:
+    void Append(const std::string& cell, std::size_t columnWidth, bool isRight) {
+        const std::size_t width = CodePoints(cell);
+        const std::size_t padding = columnWidth > width ? columnWidth - width : 0;
+        line_.append(isRight ? padding : 0, ' ');
+        line_ += cell;
+        line_.append((isRight ? 0 : padding) + 2, ' ');
+    }
+
+    StandardOutput& output_;
+    const Widths& widths_;
+    std::string line_;
+};
 
 } // namespace
 
 void WriteTable(StandardOutput& output, const DisplaySequence& sequence, const ItemOrigins& origins) {
-    const Widths widths = WidthsOf(sequence, origins);
-    output.Write(Line(HeadRow(), widths));
-    VisitRows(sequence, origins, true, [&](const Row& row) { output.Write(Line(row, widths)); });
+    const std::vector<Row> rows = RowsOf(sequence, origins);
+    const Widths widths = WidthsOf(rows);
+    LineWriter writer(output, widths);
+    writer.Write(HeadRow());
+    for (const Row& row : rows)
+        writer.Write(row);
 }
 
 } // namespace xttml
