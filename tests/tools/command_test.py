@@ -55,7 +55,7 @@ class Usage(unittest.TestCase):
 
     def test_the_reason_names_what_was_meant(self):
         for arguments, reason in (
-            ([], "the commands are list, at, play, extract, convert, render, timeline, save"),
+            ([], "the commands are list, at, play, check, extract, convert, render, timeline, save"),
             (["lst", FORCED], "'lst' is neither a command nor a file; did you mean 'list'?"),
             (["show"], "'show' is neither a command nor a file; the commands are list"),
             (["play", FORCED, "--stop", "100"], "not expected: --stop 100"),

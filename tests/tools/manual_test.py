@@ -1,11 +1,12 @@
 """The man page is well-formed and knows every option and every JSON field."""
 
+import json
 import re
 import shutil
 import subprocess
 import unittest
 
-from tool_runs import EXAMPLES, ROOT, json_of, main, output_of
+from tool_runs import EXAMPLES, ROOT, json_of, main, output_of, run
 
 PAGE = ROOT / "docs" / "xttml.1"
 
@@ -24,7 +25,7 @@ class Manual(unittest.TestCase):
         self.words = set(re.findall(r"[\w-]+", PAGE.read_text().replace("\\-", "-")))
 
     def test_knows_every_option(self):
-        for command in ("list", "at", "play", "extract", "convert", "render", "timeline", "save"):
+        for command in ("list", "at", "play", "check", "extract", "convert", "render", "timeline", "save"):
             for option in re.findall(r"--[a-z][a-z-]+", output_of(command, "--help")):
                 self.assertIn(option, self.words)
 
@@ -35,6 +36,8 @@ class Manual(unittest.TestCase):
             fields = keys(json_of(*command, "--full"))
             self.assertGreater(len(fields), 40)
             self.assertLessEqual(fields, self.words)
+        found = run("check", EXAMPLES / "pictures.en.ttml", "--json").stdout
+        self.assertLessEqual(keys(json.loads(found)), self.words)
 
     @unittest.skipUnless(shutil.which("groff"), "groff is not installed")
     def test_has_no_formatting_error(self):

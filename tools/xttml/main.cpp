@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <fmt/format.h>
 #include <langinfo.h>
 
 namespace xttml {
@@ -39,21 +40,31 @@ void RunOn(const Input& input, const Invocation& invocation, StandardOutput& out
     std::visit([&](const auto& options) { RunCommand(options, input, output); }, invocation.command);
 }
 
+/// Empty for a single document.
+std::string ProgressText(std::size_t number, std::size_t count) {
+    return count > 1 ? fmt::format("{} of {}", number, count) : "";
+}
+
 /// Runs the command on every document that can be used.
 int Run(const Invocation& invocation) {
     ShowLibraryLines(invocation.verbose);
     StandardOutput output;
     int result = DONE;
+    std::size_t number = 0;
     for (const Input& input : invocation.inputs) {
+        ShowProgress(ProgressText(++number, invocation.inputs.size()));
         try {
             RunOn(input, invocation, output);
         } catch (const UnusableFile& error) {
             output.Flush();
             Complain(error.what());
             result = FAILED;
+        } catch (const DocumentNotClean&) {
+            result = FAILED;
         }
+        output.Flush();
     }
-    output.Flush();
+    ShowProgress("");
     return result;
 }
 

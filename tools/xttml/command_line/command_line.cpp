@@ -19,6 +19,7 @@ Examples:
   xttml at film.ttml 1500 2.5s 00:01:00   what is on screen at these times
   xttml play film.ttml --realtime         the subtitles as a viewer would see them come and go
   zcat film.ttml.gz | xttml play -        a document from standard input
+  xttml check *.ttml                      what of the documents is not shown, and why
   xttml list film.ttml --images film.png  image subtitles with their block of PNG files
   xttml extract film.ttml --images film.png --to pictures
   xttml convert film.ttml -o film.srt     for players that do not read TTML
@@ -65,6 +66,8 @@ std::variant<Invocation, Notice> Parse(CLI::App& app, const std::vector<std::str
             return MakeInvocation(*used, arguments);
     } catch (const CLI::CallForVersion& version) {
         return Notice{std::string(version.what()) + "\n", false};
+    } catch (const CallForText& call) {
+        return Notice{call.what(), false};
     } catch (const CLI::CallForHelp&) {
         return Notice{app.help(), false};
     } catch (const CLI::ParseError& error) {

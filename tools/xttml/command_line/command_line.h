@@ -5,6 +5,7 @@
 #include "tools/xttml/document/document.h"
 #include "tools/xttml/document/saved_document.h"
 #include "tools/xttml/document/screen.h"
+#include "tools/xttml/findings/finding_kinds.h"
 #include "tools/xttml/formats/cue_building.h"
 #include "tools/xttml/formats/format_table.h"
 #include "tools/xttml/output/json_output.h"
@@ -43,6 +44,12 @@ struct PlayOptions {
     bool realtime = false;
     bool json = false;
     Detail detail = Detail::ESSENTIAL;
+};
+
+/// xttml check
+struct CheckOptions {
+    FindingKinds kinds; ///< what is looked for
+    bool json = false;
 };
 
 /// xttml extract
@@ -93,8 +100,8 @@ struct SaveOptions {
 struct Invocation {
     std::vector<Input> inputs; ///< what the command runs on, one after the other
     bool verbose = false;
-    std::variant<ListOptions, AtOptions, PlayOptions, ExtractOptions, ConvertOptions, RenderOptions,
-                 SheetOptions, TimelineOptions, SaveOptions>
+    std::variant<ListOptions, AtOptions, PlayOptions, CheckOptions, ExtractOptions, ConvertOptions,
+                 RenderOptions, SheetOptions, TimelineOptions, SaveOptions>
         command;
 };
 

@@ -95,6 +95,34 @@ Command AddPlay(CLI::App& app, Arguments& arguments) {
     return {play, MakePlayOptions};
 }
 
+const CLI::Validator findingName(
+    [](const std::string& text) {
+        return IsFindingKind(text) ? "" : "'" + text + "' is no name that --list tells";
+    },
+    "");
+
+CheckOptions MakeCheckOptions(const Arguments& arguments) {
+    return {FindingKindsFor(arguments.all, arguments.ignored), arguments.json};
+}
+
+Command AddCheck(CLI::App& app, Arguments& arguments) {
+    CLI::App* const check =
+        AddCommand(app, "check", "Say what of the documents is not shown, and why", arguments);
+    AddFile(*check, arguments.files);
+    AddImages(*check, arguments);
+    check->add_option("--ignore", arguments.ignored, "Leave out findings of this name; may be repeated")
+        ->allow_extra_args(false)
+        ->check(findingName)
+        ->type_name("NAME");
+    check->add_flag("--all", arguments.all, "Also what is left out by default");
+    check->add_flag_callback(
+        "--list", [] { throw CallForText(DescribeFindingKinds()); }, "Show the names of all findings");
+    check->add_flag("--json", arguments.json,
+                    "JSON for programs, an object a document, fields as in xttml(1)");
+    check->footer("Exit codes: 0 nothing found, 1 something found or a document is unusable, 2 wrong usage.");
+    return {check, MakeCheckOptions};
+}
+
 Command AddExtract(CLI::App& app, Arguments& arguments) {
     CLI::App* const extract =
         AddCommand(app, "extract", "Write the PNG file of every image item, named by its begin", arguments);
@@ -157,9 +185,9 @@ Command AddSave(CLI::App& app, Arguments& arguments) {
 } // namespace
 
 std::vector<Command> AddCommands(CLI::App& app, Arguments& arguments) {
-    return {AddList(app, arguments),     AddAt(app, arguments),      AddPlay(app, arguments),
-            AddExtract(app, arguments),  AddConvert(app, arguments), AddRender(app, arguments),
-            AddTimeline(app, arguments), AddSave(app, arguments)};
+    return {AddList(app, arguments),   AddAt(app, arguments),       AddPlay(app, arguments),
+            AddCheck(app, arguments),  AddExtract(app, arguments),  AddConvert(app, arguments),
+            AddRender(app, arguments), AddTimeline(app, arguments), AddSave(app, arguments)};
 }
 
 } // namespace xttml

@@ -30,6 +30,8 @@ struct Arguments {
     std::size_t columns = SheetOptions().columns;
     std::string background;
     PictureLook look;
+    std::vector<std::string> ignored;
+    bool all = false;
     bool json = false;
     bool full = false;
     bool first = false;
@@ -43,6 +45,11 @@ struct Arguments {
     Detail HowMuch() const { return full ? Detail::FULL : Detail::ESSENTIAL; }
     Query HowAsked() const { return first || combine ? Query::FIRST : Query::ALL; }
     ExistingFile Existing() const { return force ? ExistingFile::REPLACED : ExistingFile::KEPT; }
+};
+
+/// Asks for a text instead of a command's work, as --version does.
+struct CallForText : CLI::Success {
+    explicit CallForText(const std::string& text) : Success(text, 0) {}
 };
 
 /// A command and how its options are read.

@@ -17,6 +17,12 @@ void RunCommand(const AtOptions& options, const Input& input, StandardOutput& ou
 /// Shows what changes on screen.
 void RunCommand(const PlayOptions& options, const Input& input, StandardOutput& output);
 
+/// Every finding of a check has been told, and there are some.
+struct DocumentNotClean {};
+
+/// Says what is not shown. Throws DocumentNotClean.
+void RunCommand(const CheckOptions& options, const Input& input, StandardOutput& output);
+
 /// Writes the PNG file of every image item.
 void RunCommand(const ExtractOptions& options, const Input& input, StandardOutput& output);
 

@@ -36,10 +36,10 @@ DocumentModel::DocumentModel(const Source& source) : root_(Load(source)) {
     }
 }
 
-std::int32_t DocumentModel::FrameRate() const {
+std::int32_t FrameRateOf(const Cttaf1_dfxp& document) {
     constexpr std::int32_t usualRate = 30;
     try {
-        const std::optional<unsigned long long> rate = root_.tt.first().frameRate.value();
+        const std::optional<unsigned long long> rate = document.tt.first().frameRate.value();
         if (!rate)
             return usualRate;
         return *rate <= std::numeric_limits<std::int32_t>::max() ? static_cast<std::int32_t>(*rate) : 0;

@@ -9,6 +9,10 @@
 
 namespace xttml {
 
+/// Frames a second as the library counts them (TTML 1.0, 6.2.4): ttp:frameRate, 30 without it; 0 for what is
+/// no such number.
+std::int32_t FrameRateOf(const ttaf1_dfxp::tt::Cttaf1_dfxp& document);
+
 /// A parsed document; the XML library must be initialised as long as it lives.
 class DocumentModel {
 public:
@@ -25,9 +29,8 @@ public:
     DocumentModel& operator=(const DocumentModel&) = delete;
 
     const ttaf1_dfxp::tt::Cttaf1_dfxp& Root() const { return root_; }
-    /// Frames a second as the library counts them (TTML 1.0, 6.2.4): ttp:frameRate, 30 without it; 0 for what
-    /// is no such number.
-    std::int32_t FrameRate() const;
+    /// Frames a second.
+    std::int32_t FrameRate() const { return FrameRateOf(root_); }
 
 private:
     ttaf1_dfxp::tt::Cttaf1_dfxp root_;

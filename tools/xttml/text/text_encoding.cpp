@@ -87,6 +87,14 @@ std::string Utf8FromUtf16(std::u16string_view text) {
     return result;
 }
 
+std::string Utf8Beginning(std::u16string_view text) {
+    constexpr std::size_t longest = 40;
+    if (text.size() <= longest)
+        return Utf8FromUtf16(text);
+    const std::size_t length = IsHighSurrogate(text[longest - 1]) ? longest - 1 : longest;
+    return Utf8FromUtf16(text.substr(0, length)) + "\u2026";
+}
+
 std::string Utf8FromLatin1(std::string_view text) {
     std::string result;
     result.reserve(text.size());

@@ -10,6 +10,9 @@ namespace xttml {
 /// UTF-16 as UTF-8. A surrogate without its partner becomes U+FFFD, so the result is always valid.
 std::string Utf8FromUtf16(std::u16string_view text);
 
+/// The same of a text's beginning: an ellipsis stands for the rest of a long one.
+std::string Utf8Beginning(std::u16string_view text);
+
 /// An 8-bit string of the library as UTF-8. Each of its bytes is the low byte of a UTF-16 code unit, which
 /// makes it ISO 8859-1; every byte has a character, so the result is always valid.
 std::string Utf8FromLatin1(std::string_view text);
