@@ -204,11 +204,6 @@ class Findings(unittest.TestCase):
             '<p> tts:opacity="0": not read, as all 2 attributes called tts:opacity [unread-attribute]',
             '<p> ttp:x="1": not read [unread-attribute]'])
 
-    def test_examples_are_clean(self):
-        for example in EXAMPLES.glob("*.ttml"):
-            images = ["--images", BLOCK] if example.stem == "pictures.en" else []
-            self.assertEqual(run("check", example, *images).returncode, DONE)
-
     def test_thousands_of_overlaps_take_no_time(self):
         count = 20000
         paragraphs = (f'<p begin="{i}s" end="{2 * count - i}s"/>' for i in range(count))
@@ -273,6 +268,24 @@ class Output(unittest.TestCase):
         self.assertEqual(os.read(leader, 1000), b"xttml: 1 of 2\r\x1b[Kxttml: 2 of 2\r\x1b[K")
         os.close(leader)
         self.assertEqual(run("check", *files).stderr, b"")
+
+
+class Hint(unittest.TestCase):
+    def test_every_command_that_shows_items_tells_what_it_does_not_show(self):
+        data = tt(f'<div>{GOOD}<p begin="1s"/><p begin="2s" end="1s"/><p end="1s"/></div><div>{GOOD}</div>' + PICTURE % (TIMED, 1))
+        hint = b"xttml: -: 3 of 5 paragraphs and 1 of 1 picture are not shown; see xttml check\n"
+        for command in (["list", "-"], ["at", "-", "1s"], ["play", "-"], ["list", "-", "--json"]):
+            self.assertEqual(run(*command, data=data).stderr, hint)
+            self.assertEqual(run(*command, "--quiet", data=data).stderr, b"")
+        one = run("list", "-", data=p(times=""))
+        self.assertEqual(one.stderr, b"xttml: -: 1 of 1 paragraph is not shown; see xttml check\n")
+        pictures = run("list", "-", "--images", BLOCK, data=tt(PICTURE % (TIMED, 1) + PICTURE % (TIMED, 5)))
+        self.assertEqual(pictures.stderr, b"xttml: -: 1 of 2 pictures are not shown; see xttml check\n")
+
+    def test_examples_are_clean(self):
+        for example in EXAMPLES.glob("*.ttml"):
+            images = ["--images", BLOCK] if example.stem == "pictures.en" else []
+            self.assertEqual((run("check", example, *images).returncode, run("list", example, *images).stderr), (DONE, b""))
 
 
 if __name__ == "__main__":

@@ -113,7 +113,7 @@ class Cues(unittest.TestCase):
     def test_times(self):
         for begin, end, offset, line, other in TIMES:
             with self.subTest((begin, end, offset)):
-                data, options = document((begin, end, "a")), ("--offset", offset)
+                data, options = document((begin, end, "a")), ("--offset", offset, "--quiet")
                 if line:
                     self.assertIn(f"\n{line}\n", converted(data, "vtt", *options))
                     self.assertIn(f"\n{line.replace('.', ',')}\n", converted(data, "srt", *options))

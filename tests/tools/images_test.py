@@ -93,7 +93,7 @@ class Images(unittest.TestCase):
 
     def test_extract_names_equal_times_apart_and_reports_missing_data(self):
         document = self.write("d.ttml", (IMAGES % "".join(map(division, ("1s", "1s", "2s"), (1, 2, 5)))).encode())
-        done = run("extract", document, "--images", BLOCK, "--to", self.path / "out", "--offset", "500")
+        done = run("extract", document, "--images", BLOCK, "--to", self.path / "out", "--offset", "500", "--quiet")
         self.assertEqual(done.returncode, DONE)
         self.assertEqual(done.stderr, b"xttml: no image data for the item at 00:00:02.500\n")
         names = sorted(path.name for path in (self.path / "out").iterdir())

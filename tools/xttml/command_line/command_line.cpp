@@ -33,8 +33,8 @@ Invocation MakeInvocation(const Command& command, const Arguments& arguments) {
     Invocation invocation{{}, arguments.verbose, command.makeOptions(arguments)};
     const std::vector<std::string> one = {arguments.file};
     for (const std::string& file : arguments.files.empty() ? one : arguments.files)
-        invocation.inputs.push_back(
-            {file, arguments.images, ParseInteger(arguments.offset).value(), arguments.trusted});
+        invocation.inputs.push_back({file, arguments.images, ParseInteger(arguments.offset).value(),
+                                     arguments.trusted, arguments.quiet});
     return invocation;
 }
 

@@ -28,6 +28,11 @@ void AddJson(CLI::App& command, Arguments& arguments, const std::string& descrip
     command.add_flag("--full", arguments.full, "JSON with every field, used or not")->needs(json);
 }
 
+void AddQuiet(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--quiet", arguments.quiet,
+                     "Do not say on standard error how much of the document is not shown");
+}
+
 void AddFirst(CLI::App& command, Arguments& arguments) {
     command.add_flag("--first", arguments.first,
                      "Only the first item on screen and those right after it with the same times");
@@ -41,6 +46,7 @@ Command AddList(CLI::App& app, Arguments& arguments) {
     AddImages(*list, arguments);
     AddOffset(*list, arguments);
     AddJson(*list, arguments, "JSON for programs, an object a document, fields as in xttml(1)");
+    AddQuiet(*list, arguments);
     return {list, [](const Arguments& given) {
                 return ListOptions{given.json, given.HowMuch(), given.files.size() > 1};
             }};
@@ -59,6 +65,7 @@ Command AddAt(CLI::App& app, Arguments& arguments) {
     AddFirst(*at, arguments);
     at->add_flag("--combine", arguments.combine, "As --first, with the text of the items merged");
     AddJson(*at, arguments, "JSON for programs, fields as in xttml(1)");
+    AddQuiet(*at, arguments);
     return {at, MakeAtOptions};
 }
 
@@ -89,6 +96,7 @@ Command AddPlay(CLI::App& app, Arguments& arguments) {
     AddFirst(*play, arguments);
     play->add_flag("--realtime", arguments.realtime, "Wait between the lines as long as a viewer would");
     AddJson(*play, arguments, "JSON for programs, an object a line, fields as in xttml(1)");
+    AddQuiet(*play, arguments);
     play->add_option("--step", arguments.step, "Of no effect any more: every change is shown")
         ->check(stepFormat)
         ->type_name("MS");
@@ -133,6 +141,7 @@ Command AddExtract(CLI::App& app, Arguments& arguments) {
         ->required()
         ->type_name("DIR");
     AddForce(*extract, arguments);
+    AddQuiet(*extract, arguments);
     return {extract, [](const Arguments& given) { return ExtractOptions{given.target, given.Existing()}; }};
 }
 
@@ -158,6 +167,7 @@ Command AddConvert(CLI::App& app, Arguments& arguments) {
                       "Only the items that are shown even when subtitles are off");
     AddOffset(*convert, arguments);
     AddForce(*convert, arguments);
+    AddQuiet(*convert, arguments);
     return {convert, MakeConvertOptions};
 }
 

@@ -41,6 +41,7 @@ struct Arguments {
     bool forced = false;
     bool trusted = false;
     bool verbose = false;
+    bool quiet = false;
 
     Detail HowMuch() const { return full ? Detail::FULL : Detail::ESSENTIAL; }
     Query HowAsked() const { return first || combine ? Query::FIRST : Query::ALL; }

@@ -19,13 +19,14 @@ struct Input {
     std::vector<std::string> images; ///< the files of the image block; none for text subtitles
     MediaTime offset = 0;            ///< ms added to every time
     bool isTrusted = false;          ///< may name other documents and be of any size
+    bool isQuiet = false;            ///< nothing is said of what is not shown
 };
 
 /// A document, its items, and, when something asks for them, what its elements say. The XML library must be
 /// initialised as long as it lives.
 class Document {
 public:
-    /// Throws UnusableFile.
+    /// Says on standard error how much of the document is not shown. Throws UnusableFile.
     explicit Document(const Input& input);
 
     const DisplaySequence& Sequence() const { return sequence_; }
