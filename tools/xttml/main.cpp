@@ -3,12 +3,12 @@
 #include "tools/xttml/document/unusable_file.h"
 #include "tools/xttml/document/xml_library.h"
 #include "tools/xttml/output/diagnostics.h"
+#include "tools/xttml/output/progress.h"
 
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <fmt/format.h>
 #include <langinfo.h>
 
 namespace xttml {
@@ -40,19 +40,13 @@ void RunOn(const Input& input, const Invocation& invocation, StandardOutput& out
     std::visit([&](const auto& options) { RunCommand(options, input, output); }, invocation.command);
 }
 
-/// Empty for a single document.
-std::string ProgressText(std::size_t number, std::size_t count) {
-    return count > 1 ? fmt::format("{} of {}", number, count) : "";
-}
-
 /// Runs the command on every document that can be used.
 int Run(const Invocation& invocation) {
     ShowLibraryLines(invocation.verbose);
     StandardOutput output;
     int result = DONE;
-    std::size_t number = 0;
+    Progress progress("documents", invocation.inputs.size());
     for (const Input& input : invocation.inputs) {
-        ShowProgress(ProgressText(++number, invocation.inputs.size()));
         try {
             RunOn(input, invocation, output);
         } catch (const UnusableFile& error) {
@@ -63,8 +57,8 @@ int Run(const Invocation& invocation) {
             result = FAILED;
         }
         output.Flush();
+        progress.Step();
     }
-    ShowProgress("");
     return result;
 }
 

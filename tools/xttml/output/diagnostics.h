@@ -9,10 +9,6 @@ namespace xttml {
 /// Writes "xttml: TEXT" as one line, without control characters.
 void Complain(std::string_view text);
 
-/// Writes "xttml: TEXT" on a line that the next message or the end of it, an empty text, replaces: how far
-/// the work is. Writes nothing unless standard error is a terminal and standard output is none.
-void ShowProgress(std::string_view text);
-
 /// Where the library's own lines go: to standard error, without control characters, or nowhere.
 void ShowLibraryLines(bool areShown);
 

@@ -12,26 +12,31 @@ namespace {
 constexpr std::chrono::milliseconds patience(1000);
 constexpr std::chrono::milliseconds interval(200);
 
+bool isShown = false;
+
 } // namespace
 
 Progress::Progress(std::string things, std::size_t total)
     : things_(std::move(things)), total_(total), isTerminal_(::isatty(STDERR_FILENO) == 1),
       next_(Clock::now() + patience) {}
 
-// The carriage return behind the line lets any other message take its place.
-void Progress::Step() {
-    ++done_;
-    if (!isTerminal_ || Clock::now() < next_)
-        return;
-    next_ = Clock::now() + interval;
-    const std::string line = fmt::format("xttml: {} of {} {}", done_, total_, things_);
-    shown_ = line.size();
-    std::fputs((line + '\r').c_str(), stderr);
+Progress::~Progress() {
+    EraseProgress();
 }
 
-void Progress::Erase() {
-    if (shown_ > 0)
-        std::fputs((std::string(shown_, ' ') + '\r').c_str(), stderr);
+void Progress::Step() {
+    ++done_;
+    if (!isTerminal_ || done_ == total_ || Clock::now() < next_)
+        return;
+    next_ = Clock::now() + interval;
+    EraseProgress();
+    std::fputs(fmt::format("xttml: {} of {} {}", done_, total_, things_).c_str(), stderr);
+    isShown = true;
+}
+
+void EraseProgress() {
+    if (std::exchange(isShown, false))
+        std::fputs("\r\x1B[K", stderr); // ECMA-48: erase to the end of the line
 }
 
 } // namespace xttml

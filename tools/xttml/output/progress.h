@@ -8,13 +8,13 @@
 
 namespace xttml {
 
-/// A line on standard error, when that is a terminal and the work takes longer than a second, which
-/// disappears with the object.
+/// A line on standard error, when that is a terminal and the work takes longer than a second. It disappears
+/// with the object, and before anything else is written.
 class Progress {
 public:
     /// @param things what is counted: "pictures"
     Progress(std::string things, std::size_t total);
-    ~Progress() { Erase(); }
+    ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
@@ -24,15 +24,15 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    void Erase();
-
     std::string things_;
     std::size_t total_;
     std::size_t done_ = 0;
-    std::size_t shown_ = 0; // columns
     bool isTerminal_;
     Clock::time_point next_;
 };
+
+/// Takes the line away, for what is about to be written to the terminal.
+void EraseProgress();
 
 } // namespace xttml
 

@@ -1,5 +1,7 @@
 #include "tools/xttml/output/standard_output.h"
 
+#include "tools/xttml/output/progress.h"
+
 #include <cerrno>
 #include <system_error>
 #include <unistd.h>
@@ -20,6 +22,8 @@ void StandardOutput::Write(std::string_view text) {
 
 void StandardOutput::Flush() {
     std::string_view rest = pending_;
+    if (!rest.empty())
+        EraseProgress();
     while (!rest.empty()) {
         const ssize_t count = ::write(STDOUT_FILENO, rest.data(), rest.size());
         if (count >= 0)
