@@ -65,9 +65,16 @@ install_test_packages() {
     install_packages libgtest-dev python3=python3 pkg-config=pkg-config groff-base=groff fonts-dejavu-core
 }
 
+# What the GStreamer element is built with.
+install_gstreamer() {
+    install_packages libgstreamer-plugins-base1.0-dev
+}
+
 # What reads our subtitles and was written by others.
 install_player_packages() {
     install_packages ffmpeg=ffmpeg python3-srt python3-webvtt
+    install_gstreamer
+    install_packages gstreamer1.0-tools=gst-launch-1.0 gstreamer1.0-plugins-base gstreamer1.0-plugins-good
 }
 
 clang_sanitizes() {

@@ -6,7 +6,7 @@ import re
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-FLOORS = ["runtime", "xmltree", "binding", "style", "parser", "api", "render", "tools"]
+FLOORS = ["runtime", "xmltree", "binding", "style", "parser", "api", "render", "tools", "players"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 PLAYER_HEADERS = ["api/x_ttml.h", "api/x_ttml_items.h"]
 OUTPUT = ("runtime/progress_lines.h", "runtime/progress_lines.cpp")
