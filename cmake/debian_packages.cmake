@@ -48,8 +48,19 @@ set(CPACK_DEBIAN_TOOL_DESCRIPTION "show what a media player would show of TTML s
 xttml loads a TTML subtitle document and tells which items a media player
 would have on screen, and when.")
 
+set(CPACK_DEBIAN_GSTREAMER_PACKAGE_NAME gstreamer1.0-xttml)
+set(CPACK_DEBIAN_GSTREAMER_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_GSTREAMER_PACKAGE_DEPENDS
+  "libxttml${XTTML_ABI} (>= ${PROJECT_VERSION}), libgstreamer-plugins-base1.0-0 (>= 1.20)")
+set(CPACK_DEBIAN_GSTREAMER_DESCRIPTION "TTML subtitles for GStreamer
+This plugin holds xttmloverlay, an element that puts TTML subtitles over
+video. playbin, and what is built on it, takes it by itself.")
+
 set(CPACK_COMPONENTS_ALL library development)
 if(XTTML_BUILD_TOOLS)
   list(APPEND CPACK_COMPONENTS_ALL tool)
+endif()
+if(XTTML_BUILD_GSTREAMER)
+  list(APPEND CPACK_COMPONENTS_ALL gstreamer)
 endif()
 include(CPack)

@@ -1,4 +1,4 @@
-# What `cmake --install` puts where. Three components, a Debian package each: library, development, tool.
+# What `cmake --install` puts where. A component is a Debian package: library, development, tool, gstreamer.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 include(cmake/pkg_config_file.cmake)
@@ -32,4 +32,7 @@ if(XTTML_BUILD_TOOLS)
   install(FILES docs/xttml.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   install(FILES tools/xttml/completion/xttml.bash RENAME xttml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
+endif()
+if(XTTML_BUILD_GSTREAMER)
+  install(TARGETS gstxttml LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/gstreamer-1.0 COMPONENT gstreamer)
 endif()
