@@ -28,11 +28,6 @@ void AddJson(CLI::App& command, Arguments& arguments, const std::string& descrip
     command.add_flag("--full", arguments.full, "JSON with every field, used or not")->needs(json);
 }
 
-void AddQuiet(CLI::App& command, Arguments& arguments) {
-    command.add_flag("--quiet", arguments.quiet,
-                     "Do not say on standard error how much of the document is not shown");
-}
-
 void AddFirst(CLI::App& command, Arguments& arguments) {
     command.add_flag("--first", arguments.first,
                      "Only the first item on screen and those right after it with the same times");

@@ -83,6 +83,7 @@ Command AddRender(CLI::App& app, Arguments& arguments) {
     AddImages(*render, arguments);
     AddOffset(*render, arguments);
     AddForce(*render, arguments);
+    AddQuiet(*render, arguments);
     return {render, [](const Arguments& given) -> decltype(Invocation::command) {
                 if (given.sheet.empty())
                     return MakeRenderOptions(given);
@@ -98,6 +99,7 @@ Command AddTimeline(CLI::App& app, Arguments& arguments) {
     AddImages(*timeline, arguments);
     AddOffset(*timeline, arguments);
     AddForce(*timeline, arguments);
+    AddQuiet(*timeline, arguments);
     return {timeline, MakeTimelineOptions};
 }
 

@@ -73,4 +73,9 @@ void AddForce(CLI::App& command, Arguments& arguments) {
     command.add_flag("--force", arguments.force, "Replace what is there");
 }
 
+void AddQuiet(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--quiet", arguments.quiet,
+                     "Do not say on standard error how much of the document is not shown");
+}
+
 } // namespace xttml

@@ -41,6 +41,9 @@ CLI::Option* AddOutput(CLI::App& command, Arguments& arguments);
 /// Adds --force.
 void AddForce(CLI::App& command, Arguments& arguments);
 
+/// Adds --quiet.
+void AddQuiet(CLI::App& command, Arguments& arguments);
+
 } // namespace xttml
 
 #endif
