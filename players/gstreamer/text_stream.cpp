@@ -49,7 +49,7 @@ bool EndsLikeDocument(std::string_view bytes) {
 GstClockTimeDiff SignedStreamTime(const GstSegment& segment, GstClockTime time) {
     guint64 magnitude = 0;
     const int sign = gst_segment_to_stream_time_full(&segment, GST_FORMAT_TIME, time, &magnitude);
-    return sign * static_cast<GstClockTimeDiff>(magnitude);
+    return static_cast<GstClockTimeDiff>(sign < 0 ? 0 - magnitude : magnitude); // may wrap
 }
 
 } // namespace

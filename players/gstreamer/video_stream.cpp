@@ -12,7 +12,7 @@ namespace {
 
 /// The ms of a document at a stream time.
 std::int32_t DocumentTime(GstClockTime stream, GstClockTimeDiff origin, std::int32_t offset) {
-    const GstClockTimeDiff since = static_cast<GstClockTimeDiff>(stream) - origin;
+    const auto since = static_cast<GstClockTimeDiff>(stream - static_cast<GstClockTime>(origin)); // may wrap
     const auto nanoseconds = static_cast<GstClockTimeDiff>(GST_MSECOND);
     const GstClockTimeDiff floored = since / nanoseconds - (since % nanoseconds < 0 ? 1 : 0);
     using Range = std::numeric_limits<std::int32_t>;
