@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace xttml {
@@ -16,9 +16,12 @@ namespace {
 enum Column { NUMBER, BEGIN, END, BOX, COLOR, BACKGROUND, FONT, ALIGN, ID, REGION, STYLE, TEXT, COLUMNS };
 
 using Row = std::array<std::string, COLUMNS>;
+using Cells = std::array<std::string_view, COLUMNS>;
 using Widths = std::array<std::size_t, COLUMNS>; // 0: the column is left out
 
 constexpr std::size_t widestColumn = 32;
+constexpr Cells HEADS = {"#",         "BEGIN", "END", "BOX",    "COLOUR", "BACKGROUND",
+                         "FONT/LINE", "ALIGN", "ID",  "REGION", "STYLE",  "TEXT"};
 
 std::string PixelsOrDash(std::uint32_t pixels) {
     return pixels == 0 ? "-" : std::to_string(pixels);
@@ -41,11 +44,6 @@ void SetStyling(Row& row, const StylingAttrib& styling) {
     row[FONT] = Font(styling);
     if (styling.iVisibility != 0)
         row[TEXT] += "[hidden] ";
-}
-
-Row HeadRow() {
-    return {"#",         "BEGIN", "END", "BOX",    "COLOUR", "BACKGROUND",
-            "FONT/LINE", "ALIGN", "ID",  "REGION", "STYLE",  "TEXT"};
 }
 
 std::string Cell(const std::optional<std::string>& text) {
@@ -79,38 +77,65 @@ Row RunRow(const Sentence& run, std::size_t number, const std::string& text) {
     return row;
 }
 
+/// Rows of text, packed: many thousands of them are held until their widths are known.
+class Rows {
+public:
+    void Append(const Row& row) {
+        for (const std::string& cell : row) {
+            sizes_.push_back(cell.size());
+            text_ += cell;
+        }
+    }
+
+    template <class Visit>
+    void ForEach(Visit&& visit) const {
+        std::string_view rest = text_;
+        for (std::size_t first = 0; first < sizes_.size(); first += COLUMNS) {
+            Cells cells;
+            for (std::size_t column = 0; column < COLUMNS; ++column) {
+                cells[column] = rest.substr(0, sizes_[first + column]);
+                rest.remove_prefix(cells[column].size());
+            }
+            visit(cells);
+        }
+    }
+
+private:
+    std::string text_;
+    std::vector<std::size_t> sizes_; // of each cell
+};
+
 /// All rows below the head.
-std::vector<Row> RowsOf(const DisplaySequence& sequence, const ItemOrigins& origins) {
-    std::vector<Row> rows;
+Rows RowsOf(const DisplaySequence& sequence, const ItemOrigins& origins) {
+    Rows rows;
     std::size_t number = 0;
     for (const DisplayItem* const item : sequence.Items()) {
         const auto pieces = render::ReadPieces(item, render::WhiteSpace::COLLAPSED);
         Row row =
             ItemRow(*item, sequence.SpanOf(*item), origins.Of(*item), sequence.Images(), TextOf(pieces));
         row[NUMBER] = std::to_string(++number);
-        rows.push_back(std::move(row));
+        rows.Append(row);
         const std::vector<Sentence*>& runs = Runs(*item);
         for (std::size_t j = 0; j < runs.size(); ++j)
             if (runs[j]->pStylingAttrib)
-                rows.push_back(RunRow(*runs[j], j + 1, pieces[j].text));
+                rows.Append(RunRow(*runs[j], j + 1, pieces[j].text));
     }
     return rows;
 }
 
-void Widen(Widths& widths, const Row& row) {
+void Widen(Widths& widths, const Cells& cells) {
     for (std::size_t column = 0; column < TEXT; ++column)
-        widths[column] = std::max(widths[column], std::min(CodePoints(row[column]), widestColumn));
+        widths[column] = std::max(widths[column], std::min(CodePoints(cells[column]), widestColumn));
 }
 
 /// The widths of the columns that hold something, their heads included.
-Widths WidthsOf(const std::vector<Row>& rows) {
+Widths WidthsOf(const Rows& rows) {
     Widths widths{};
-    for (const Row& row : rows)
-        Widen(widths, row);
-    Row heads = HeadRow();
+    rows.ForEach([&widths](const Cells& cells) { Widen(widths, cells); });
+    Cells heads = HEADS;
     for (std::size_t column = 0; column < TEXT; ++column)
         if (widths[column] == 0)
-            heads[column].clear();
+            heads[column] = {};
     Widen(widths, heads);
     return widths;
 }
@@ -120,18 +145,18 @@ class LineWriter {
 public:
     LineWriter(StandardOutput& output, const Widths& widths) : output_(output), widths_(widths) {}
 
-    void Write(const Row& row) {
+    void Write(const Cells& cells) {
         line_.clear();
         for (std::size_t column = 0; column < TEXT; ++column)
             if (widths_[column] != 0)
-                Append(row[column], widths_[column], column == NUMBER);
-        line_ += row[TEXT];
+                Append(cells[column], widths_[column], column == NUMBER);
+        line_ += cells[TEXT];
         line_ += '\n';
         output_.Write(line_);
     }
 
 private:
-    void Append(const std::string& cell, std::size_t columnWidth, bool isRight) {
+    void Append(std::string_view cell, std::size_t columnWidth, bool isRight) {
         const std::size_t width = CodePoints(cell);
         const std::size_t padding = columnWidth > width ? columnWidth - width : 0;
         line_.append(isRight ? padding : 0, ' ');
@@ -147,12 +172,11 @@ private:
 } // namespace
 
 void WriteTable(StandardOutput& output, const DisplaySequence& sequence, const ItemOrigins& origins) {
-    const std::vector<Row> rows = RowsOf(sequence, origins);
+    const Rows rows = RowsOf(sequence, origins);
     const Widths widths = WidthsOf(rows);
     LineWriter writer(output, widths);
-    writer.Write(HeadRow());
-    for (const Row& row : rows)
-        writer.Write(row);
+    writer.Write(HEADS);
+    rows.ForEach([&writer](const Cells& cells) { writer.Write(cells); });
 }
 
 } // namespace xttml
