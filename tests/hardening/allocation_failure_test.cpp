@@ -266,11 +266,11 @@ TEST_P(AllocationFailure, HasNothingToFailInAQueryByTime) {
     EXPECT_EQ(CapturedOutput([&] {
                   made -= own.Made() + xml.Made();
                   DisplayItem* items[X_TTML_DISPLAY_ITEM_SLOTS];
-                  for (const std::uint32_t time : {0U, 1500U, 3000U}) {
-                      x_ttml_get_display_item_by_time(parser, time);
-                      x_ttml_get_display_item_array_by_time(parser, items, time);
+                  for (const std::int32_t time : {0, 1500, 3000}) {
+                      x_ttml_get_display_item_by_time(parser, static_cast<std::uint32_t>(time));
+                      x_ttml_get_display_item_array_by_time(parser, items, static_cast<std::uint32_t>(time));
                       x_ttml_get_items_on_screen(parser, items, X_TTML_DISPLAY_ITEM_SLOTS, time);
-                      x_ttml_get_next_change(parser, static_cast<std::int32_t>(time));
+                      x_ttml_get_next_change(parser, time);
                   }
                   made += own.Made() + xml.Made();
               }),

@@ -20,7 +20,7 @@ TEST(StylingAttrib, StartsWithTheDefaults) {
         EXPECT_EQ(pair.uFirst | pair.uSecond, 0U);
     EXPECT_EQ(attrib.iReserved1 | attrib.iReserved2 | attrib.iReserved3 | attrib.iReserved5, 0);
     EXPECT_EQ(attrib.iFontStyle | attrib.iFontWeight | attrib.iVisibility, 0);
-    EXPECT_EQ(attrib.eDisplayAlign + attrib.eTextAlign + attrib.eTextDecoration, 0);
+    EXPECT_EQ(int(attrib.eDisplayAlign) + int(attrib.eTextAlign) + int(attrib.eTextDecoration), 0);
     for (const bool flag :
          {attrib.fgColorSet, attrib.fgFontSizeSet, attrib.fgFontWeightSet, attrib.fgFontStyleSet,
           attrib.fgLineHeightSet, attrib.fgReserved1, attrib.fgTextAlignSet, attrib.fgReserved2,
