@@ -144,10 +144,8 @@ XTTML_API uint32_t x_ttml_get_item_count(x_ttml_handle handle);
 /** The xml:lang of the loaded document's tt element; empty without one and without a document. */
 XTTML_API size_t x_ttml_get_language(x_ttml_handle handle, char *buffer, size_t room);
 
-/** The loaded document in the XML library's own form, for what the items do not tell: in C++ the document
- * model takes it, ttaf1_dfxp::tt::Cttaf1_dfxp(static_cast<xercesc::DOMNode *>(...)).
- * @return the address of a xercesc::DOMNode, the parser's until x_ttml_destory_doc(); null without a document
- *         and for a null handle */
+/** The loaded document, for ttaf1_dfxp::tt::Cttaf1_dfxp of the C++ document model, which tells all of it.
+ * @return a xercesc::DOMNode, the parser's until x_ttml_destory_doc(); null without a document */
 XTTML_API void *x_ttml_get_document(x_ttml_handle handle);
 
 /** An item by its number.
@@ -185,12 +183,10 @@ enum {
 /** One of X_TTML_NO_ITEM, X_TTML_TEXT_ITEM and X_TTML_IMAGE_ITEM. */
 XTTML_API int x_ttml_item_get_kind(const DisplayItem *item);
 
-/** The first millisecond on screen; an item without a begin has -1 and the offset of its generation; -1 for
- * null. */
+/** The first millisecond on screen; -1 plus the offset of its generation without a begin; -1 for null. */
 XTTML_API int32_t x_ttml_item_get_begin(const DisplayItem *item);
 
-/** The last millisecond on screen; an item without an end has -1 and the offset of its generation; -1 for
- * null. */
+/** The last millisecond on screen; -1 plus the offset of its generation without an end; -1 for null. */
 XTTML_API int32_t x_ttml_item_get_end(const DisplayItem *item);
 
 /** 1 when the item is shown even while subtitles are off (CFF-TT forcedDisplayMode), else 0. */
