@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <limits>
 #include <random>
 
@@ -103,6 +104,21 @@ TEST(DateTimes, AreReadAndPrinted) {
     EXPECT_EQ(Read("2011-03-15T10:20:30.5Z").Timezone(), 0);
     EXPECT_EQ(Read("2011-03-15").Timezone(), -32768);
     EXPECT_FALSE(Read("2011-03-15").HasTimezone());
+}
+
+TEST(DateTimes, CountTheDaysOfEveryMonth) {
+    const int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    int days = 0;
+    for (int year = 1; year <= 400; ++year) {
+        const bool isLeap = year % 4 == 0 && (year % 100 != 0 || year == 400);
+        for (int month = 1; month <= 12; ++month) {
+            char first[16];
+            std::snprintf(first, sizeof first, "%04d-%02d-01", year, month);
+            EXPECT_EQ(CoreTypes::CastToString(Read(first), CoreTypes::FormatDays), std::to_string(days));
+            EXPECT_EQ(CoreTypes::CastToString(Read(first), CoreTypes::FormatDate), first);
+            days += lengths[month - 1] + (month == 2 && isLeap ? 1 : 0);
+        }
+    }
 }
 
 TEST(DateTimes, RejectOtherTexts) {
