@@ -239,14 +239,14 @@ void KeepLine(void* context, const char* line, std::size_t length) {
 TEST_P(AllocationFailure, EndsALoadFromMemoryWithALineAndAStatus) {
     std::string line(99, ' '); // no line of a load needs more room
     x_ttml_set_line_function(KeepLine, &line);
-    long failing = 0;
+    long failing = 0; // of the XML library's, which are made in every release
     for (bool hasFailed = true; hasFailed;) {
         x_ttml_handle parser = nullptr;
         x_ttml_create_new_parser(&parser);
         x_ttml_set_untrusted(parser, isUntrusted);
-        own.FailAt(++failing);
+        xml.FailAt(++failing);
         const int status = x_ttml_load_subtitle_from_data(parser, DOCUMENT, sizeof DOCUMENT - 1);
-        hasFailed = own.EndFailing();
+        hasFailed = xml.EndFailing();
         EXPECT_EQ(line, hasFailed ? "Unknown Exception Occured!" : "load from file ok");
         EXPECT_EQ(status, hasFailed ? X_TTML_UNUSABLE : X_TTML_OK);
         x_ttml_destory_doc(parser);

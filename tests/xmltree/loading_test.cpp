@@ -5,6 +5,7 @@
 #include "tests/xmltree/sample_document.h"
 
 #include <gtest/gtest.h>
+#include <xercesc/util/XercesVersion.hpp>
 
 namespace {
 
@@ -53,8 +54,10 @@ TEST(Loading, FromAFileReportsEveryStep) {
     } cases[] = {
         {NAMESPACED, "parse OK\nadoptDocument OK\n", "urn:tt tt", LoadFault::NONE},
         {"<tt>", "SAXException catched\n", ": Xerces SAX error while loading: ", LoadFault::MALFORMED},
+#if _XERCES_VERSION >= 30200 // before, this was a fault like others
         {"<?xml version='1.4'?><!DOCTYPE tt [<!ENTITY e 'text'><!ELEMENT ", "DOMException catched\n",
          ": Xerces DOM error while loading", LoadFault::MALFORMED},
+#endif
     };
     for (const auto& test : cases) {
         const TemporaryFile file(test.content);
