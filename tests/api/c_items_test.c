@@ -18,13 +18,12 @@ static void expect(int holds, int line, const char *what) {
 static const char text_document[] =
     "<tt xmlns='http://www.w3.org/ns/ttml' xmlns:tts='http://www.w3.org/ns/ttml#styling' xml:lang='de' "
     "xmlns:cff='http://www.decellc.org/schema/2012/01/cff-tt-meta' tts:extent='640px 480px'><head><styling>"
-    "<style xml:id='s' tts:color='rgb(1,2,3)' tts:fontStyle='italic' "
-    "tts:textDecoration='overline'/></styling>"
-    "<layout><region xml:id='r' tts:origin='10px 20px' tts:extent='300px 100px' tts:displayAlign='after' "
-    "tts:backgroundColor='#01020304' tts:textAlign='end' tts:fontSize='20px' tts:lineHeight='150%'/></layout>"
-    "</head><body><div><p region='r' style='s' begin='1s' end='3s' "
-    "cff:forcedDisplayMode='true'>\xC3\xA4\xE2\x82"
-    "\xAC<br/><span tts:visibility='hidden'>no</span><span tts:fontWeight='bold'>\xF0\x9F\x99\x82</span></p>"
+    "<style xml:id='s' tts:color='rgb(1,2,3)' tts:fontStyle='italic' tts:textDecoration='overline'/>"
+    "</styling><layout><region xml:id='r' tts:origin='10px 20px' tts:extent='300px 100px' "
+    "tts:displayAlign='after' tts:backgroundColor='#01020304' tts:textAlign='end' tts:fontSize='20px' "
+    "tts:lineHeight='150%'/></layout></head><body><div><p region='r' style='s' begin='1s' end='3s' "
+    "cff:forcedDisplayMode='true'>\xC3\xA4\xE2\x82\xAC<br/><span tts:visibility='hidden'>no</span>"
+    "<span tts:fontWeight='bold'>\xF0\x9F\x99\x82</span></p>"
     "<p begin='2s' end='4s'>two</p><p tts:visibility='hidden'>unseen</p></div></body></tt>";
 static const char image_document[] =
     "<tt xmlns='http://www.w3.org/ns/ttml' "
@@ -52,9 +51,7 @@ static int load(x_ttml_handle parser, const char *document) {
 static void wrong_arguments(void) {
     x_ttml_handle parser = new_parser();
     x_ttml_styling styling;
-    uint32_t line = 5;
-    uint32_t column = 5;
-    uint32_t bytes = 5;
+    uint32_t line = 5, column = 5, bytes = 5;
     size_t length = 5;
     char text[4] = "abc";
     memset(&styling, 7, sizeof styling);
