@@ -10,19 +10,6 @@ namespace xttml::gstreamer {
 
 namespace {
 
-x_ttml_handle MakeParser() {
-    x_ttml_handle parser = nullptr;
-    if (x_ttml_try_create_parser(&parser) != X_TTML_OK)
-        throw std::bad_alloc();
-    return parser;
-}
-
-std::string ReadLanguage(x_ttml_handle parser) {
-    std::string language(x_ttml_get_language(parser, nullptr, 0) + 1, '\0');
-    language.resize(x_ttml_get_language(parser, language.data(), language.size()));
-    return language;
-}
-
 bool IsNotForced(const DisplayItem* item) {
     return x_ttml_item_is_forced(item) == 0;
 }
@@ -53,13 +40,8 @@ std::string ReadFile(const std::string& path) {
 
 } // namespace
 
-void Document::ParserDeleter::operator()(x_ttml_handle parser) const {
-    x_ttml_destory_doc(parser);
-    x_ttml_delete_parser(parser);
-}
-
 Document::Document(std::string_view bytes, bool isTrusted, std::string_view pictures)
-    : parser_(MakeParser()) {
+    : parser_(render::MakeParser()) {
     const x_ttml_handle parser = parser_.get();
     x_ttml_set_untrusted(parser, isTrusted ? 0 : 1);
     Require(x_ttml_try_load_from_data(parser, bytes.data(), static_cast<std::uint32_t>(bytes.size())));
@@ -70,7 +52,7 @@ Document::Document(std::string_view bytes, bool isTrusted, std::string_view pict
             x_ttml_try_set_image_data(parser, pictures.data(), static_cast<std::int32_t>(pictures.size())));
         Require(x_ttml_try_generate_images(parser, 0));
     }
-    language_ = ReadLanguage(parser);
+    language_ = render::ReadLanguage(parser);
     x_ttml_destory_doc(parser); // its memory is many times that of the items
 }
 

@@ -3,6 +3,7 @@
 #define XTTML_PLAYERS_GSTREAMER_DOCUMENT_H
 
 #include "render/geometry.h"
+#include "render/owned_parser.h"
 
 #include <cstdint>
 #include <memory>
@@ -43,12 +44,9 @@ public:
     const std::string& Language() const { return language_; } ///< BCP 47; may be empty
 
 private:
-    struct ParserDeleter {
-        void operator()(x_ttml_handle parser) const;
-    };
     void Require(int status) const;
 
-    std::unique_ptr<void, ParserDeleter> parser_;
+    render::OwnedParser parser_;
     std::string language_;
 };
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <new>
 #include <string_view>
 
 namespace xttml {
@@ -13,19 +12,6 @@ namespace {
 
 constexpr std::int32_t unknownTime = -1;
 
-x_ttml_handle MakeParser() {
-    x_ttml_handle parser = nullptr;
-    if (x_ttml_try_create_parser(&parser) != X_TTML_OK)
-        throw std::bad_alloc();
-    return parser;
-}
-
-std::string ReadLanguage(x_ttml_handle parser) {
-    std::string language(x_ttml_get_language(parser, nullptr, 0) + 1, '\0');
-    language.resize(x_ttml_get_language(parser, language.data(), language.size()));
-    return language;
-}
-
 /// The library's reason without the place that it begins with where there is one.
 std::string WithoutPlace(std::string_view reason, bool hasPlace) {
     return std::string(hasPlace ? reason.substr(reason.find(": ") + 2) : reason);
@@ -33,13 +19,8 @@ std::string WithoutPlace(std::string_view reason, bool hasPlace) {
 
 } // namespace
 
-void DisplaySequence::ParserDeleter::operator()(x_ttml_handle parser) const {
-    x_ttml_destory_doc(parser);
-    x_ttml_delete_parser(parser);
-}
-
 DisplaySequence::DisplaySequence(const Source& source, const ImageBlock& images, MediaTime offset)
-    : images_(images), offset_(offset), parser_(MakeParser()) {
+    : images_(images), offset_(offset), parser_(render::MakeParser()) {
     const x_ttml_handle parser = parser_.get();
     x_ttml_set_untrusted(parser, !source.IsTrusted());
     if (!images.Empty())
@@ -51,7 +32,7 @@ DisplaySequence::DisplaySequence(const Source& source, const ImageBlock& images,
     Require(generate(parser, 0), source);
     for (std::uint32_t i = 0; i < x_ttml_get_item_count(parser); ++i)
         items_.push_back(x_ttml_get_item(parser, i));
-    language_ = ReadLanguage(parser);
+    language_ = render::ReadLanguage(parser);
 }
 
 DocumentModel DisplaySequence::Model() const {

@@ -2,13 +2,13 @@
 #ifndef XTTML_TOOLS_XTTML_DOCUMENT_DISPLAY_SEQUENCE_H
 #define XTTML_TOOLS_XTTML_DOCUMENT_DISPLAY_SEQUENCE_H
 
+#include "render/owned_parser.h"
 #include "tools/xttml/document/document_model.h"
 #include "tools/xttml/document/image_block.h"
 #include "tools/xttml/document/source.h"
 #include "tools/xttml/text/media_time.h"
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -69,10 +69,6 @@ public:
     TextItem* Combine(MediaTime time) const;
 
 private:
-    struct ParserDeleter {
-        void operator()(x_ttml_handle parser) const;
-    };
-
     void Require(int status, const Source& source) const;
     void Load(const Source& source);
     std::optional<std::int32_t> DocumentTime(MediaTime time) const;
@@ -80,7 +76,7 @@ private:
 
     const ImageBlock& images_;
     MediaTime offset_;
-    std::unique_ptr<void, ParserDeleter> parser_;
+    render::OwnedParser parser_;
     ItemList items_;
     std::string language_;
 };
