@@ -7,7 +7,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 using namespace ttaf1_dfxp;
 
@@ -23,41 +22,7 @@ const tessera::TypeInfo& TypeNamed(const std::string& prefix, const std::string&
     throw std::out_of_range(prefix + ":" + name);
 }
 
-/// The facets of a type, as "name=value".
-std::vector<std::string> FacetsOf(const tessera::TypeInfo& type) {
-    std::vector<std::string> list;
-    for (auto i = type.facetIndex; i != -1 && facets[i].facetName; ++i) {
-        list.push_back(std::string(facets[i].facetName) + "=" + facets[i].value);
-    }
-    return list;
-}
-
 } // namespace
-
-TEST(Tables, BaseTypesFollowTheDerivation) {
-    const struct {
-        const char* prefix;
-        const char* name;
-        std::vector<std::string> bases;
-    } chains[] = {
-        {"xs",
-         "unsignedByte",
-         {"unsignedShort", "unsignedInt", "unsignedLong", "nonNegativeInteger", "integer", "decimal",
-          "anySimpleType"}},
-        {"xs", "IDREF", {"NCName", "Name", "token", "normalizedString", "string", "anySimpleType"}},
-        {"ttd", "tickRate", {"positiveInteger", "nonNegativeInteger", "integer", "decimal", "anySimpleType"}},
-        {"tt", "p.eltype", {"anyType"}},
-        {"tt", "ttaf1_dfxp", {}},
-    };
-    for (const auto& chain : chains) {
-        std::vector<std::string> bases;
-        for (auto base = TypeNamed(chain.prefix, chain.name).baseType; base != -1;
-             base = types[base].baseType) {
-            bases.emplace_back(types[base].localName);
-        }
-        EXPECT_EQ(bases, chain.bases) << chain.name;
-    }
-}
 
 TEST(Tables, FormattersOfTypes) {
     const struct {
@@ -84,20 +49,4 @@ TEST(Tables, FormattersOfTypes) {
     EXPECT_EQ(TypeNamed("tt", "ttaf1_dfxp").formatter, nullptr);
     EXPECT_EQ(formatterSlots[DURATION], &tessera::Exported_DurationFormatter);
     EXPECT_EQ(formatterSlots[BASE64_BINARY], &tessera::Exported_Base64BinaryFormatter);
-}
-
-TEST(Facets, ListsOfTypes) {
-    const struct {
-        const char* prefix;
-        const char* name;
-        std::vector<std::string> facets;
-    } lists[] = {
-        {"xs", "IDREFS", {"whitespace=collapse", "minLength=1"}},
-        {"xs", "ID", {}},
-        {"xs", "byte", {"minInclusive=-128", "maxInclusive=127"}},
-        {"ttd", "displayAlign", {"enumeration=before", "enumeration=center", "enumeration=after"}},
-    };
-    for (const auto& list : lists) {
-        EXPECT_EQ(FacetsOf(TypeNamed(list.prefix, list.name)), list.facets) << list.name;
-    }
 }
