@@ -1,6 +1,7 @@
 #include "binding/ttaf1_dfxp.h"
 
 #include "tests/binding/owned_document.h"
+#include "tests/support/outcomes.h"
 #include "tests/support/temporary_file.h"
 
 #include <gtest/gtest.h>
@@ -101,19 +102,12 @@ TEST_F(Document, DTDLocation) {
 }
 
 TEST_F(Document, LocationsNeedARootElement) {
+    using tessera::InvalidOperationException;
     OwnedDocument empty;
-    const auto messageOf = [](auto&& edit) -> std::string {
-        try {
-            edit();
-        } catch (const tessera::InvalidOperationException& e) {
-            return e.message();
-        }
-        return "nothing thrown";
-    };
     for (Cttaf1_dfxp document : {empty.root, Cttaf1_dfxp(nullptr)}) {
-        EXPECT_EQ(messageOf([&] { document.SetSchemaLocation("x"); }),
+        EXPECT_EQ(ThrownMessage<InvalidOperationException>([&] { document.SetSchemaLocation("x"); }),
                   "You have to add a root element before setting schema location.");
-        EXPECT_EQ(messageOf([&] { document.SetDTDLocation("x"); }),
+        EXPECT_EQ(ThrownMessage<InvalidOperationException>([&] { document.SetDTDLocation("x"); }),
                   "You have to add a root element before setting DTD location.");
     }
 }

@@ -2,6 +2,7 @@
 
 #include "binding/ttaf1_dfxp.h"
 #include "tests/binding/owned_document.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 
@@ -71,12 +72,8 @@ TEST(MemberAttribute, IsFoundByNamespaceAndLocalName) {
 TEST(MemberAttribute, ReadingAnAbsentOneThrows) {
     const OwnedDocument document(HEAD + "<p/>" + TAIL);
     const auto p = FirstP(document);
-    try {
-        Read(p.begin);
-        FAIL() << "nothing thrown";
-    } catch (const tessera::InvalidOperationException& e) {
-        EXPECT_EQ(e.message(), "Cannot read value of non-existent attribute.");
-    }
+    EXPECT_EQ(ThrownMessage<tessera::InvalidOperationException>([&] { Read(p.begin); }),
+              "Cannot read value of non-existent attribute.");
 }
 
 TEST(MemberAttribute, BooleansAreReadByTheirLexicalRules) {

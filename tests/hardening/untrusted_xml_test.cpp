@@ -2,6 +2,7 @@
 #include "api/x_ttml_items.h"
 #include "runtime/exceptions.h"
 #include "tests/support/captured_output.h"
+#include "tests/support/repeated.h"
 #include "tests/support/temporary_file.h"
 #include "tests/support/xerces_session.h"
 #include "xmltree/transcode.h"
@@ -10,14 +11,6 @@
 #include <stdlib.h>
 
 namespace {
-
-std::string Repeated(const std::string& text, std::size_t times) {
-    std::string repeated;
-    repeated.reserve(text.size() * times);
-    for (std::size_t i = 0; i < times; ++i)
-        repeated += text;
-    return repeated;
-}
 
 /// A tt whose document type declares things and whose content uses them.
 std::string WithDocumentType(const std::string& declarations, const std::string& content) {

@@ -1,6 +1,7 @@
 #include "tests/parser/loaded_parser.h"
+#include "tests/support/outcomes.h"
+#include "tests/support/repeated.h"
 
-#include <functional>
 #include <memory>
 
 namespace {
@@ -268,39 +269,23 @@ TEST_F(TextSequence, ChangesNothingWithoutADivision) {
     EXPECT_EQ(parser.iGetExtentWidth(), 1024);
 }
 
-template <class Exception>
-std::string strMessageOf(const std::function<void()>& action) {
-    try {
-        CapturedOutput(action);
-    } catch (const Exception& exception) {
-        return exception.message();
-    }
-    return "nothing thrown";
-}
-
 TEST_F(TextSequence, LetsConversionErrorsPassAndKeepsEarlierItems) {
-    ASSERT_TRUE(fgLoad(strDocument("ttp:frameRate='30fps'", "<body><div><p/></div></body>")));
-    EXPECT_EQ(strMessageOf<tessera::StringParseException>([&] { parser.vGenerateTextDisplaySequence(0); }),
+    EXPECT_EQ(ThrownMessage<tessera::StringParseException>(
+                  [&] { vGenerateText("<p/>", "", "ttp:frameRate='30fps'"); }),
               "'30fps' could not be parsed as int");
     EXPECT_TRUE(parser.vecGetDisplaySequence().empty());
     EXPECT_NO_THROW(vGenerateText("", "", "ttp:frameRate='30fps'")) << "read with the first paragraph";
-    ASSERT_TRUE(
-        fgLoad(strDocument("", "<body><div><p begin='1s' end='2s'>x</p><p cff:forcedDisplayMode='yes'>"
-                               "x</p></div></body>")));
-    EXPECT_EQ(strMessageOf<tessera::StringParseException>([&] { parser.vGenerateTextDisplaySequence(0); }),
+    const char* const bad = "<p begin='1s' end='2s'>x</p><p cff:forcedDisplayMode='yes'>x</p>";
+    EXPECT_EQ(ThrownMessage<tessera::StringParseException>([&] { vGenerateText(bad); }),
               "'yes' could not be parsed as bool");
     EXPECT_EQ(parser.vecGetDisplaySequence().size(), 1U);
 }
 
 TEST_F(TextSequence, WalksSpansOfAnyDepth) {
-    constexpr int iDepth = 100000;
-    std::string strContent;
-    for (int i = 0; i < iDepth; ++i)
-        strContent += "<span xmlns='urn:near'>"; // declared near, the XML library finds it at once
-    strContent += "deep";
-    for (int i = 0; i < iDepth; ++i)
-        strContent += "</span>";
-    vGenerateText("<p>" + strContent + "after</p>");
+    constexpr std::size_t uDepth = 100000;
+    // a namespace that is declared near is found by the XML library at once
+    vGenerateText("<p>" + Repeated("<span xmlns='urn:near'>", uDepth) + "deep" + Repeated("</span>", uDepth) +
+                  "after</p>");
     EXPECT_EQ(Describe(rLastItem()), "[-1,-1] w=1024 h=768 |'deep'{w=1024 h=768} |'after'");
 }
 

@@ -1,17 +1,11 @@
 // Documents that ask for more than there is: a reason, and an end in time.
 #include "tests/render/screenshot.h"
+#include "tests/support/repeated.h"
 
 #include <gtest/gtest.h>
 
 namespace xttml::render {
 namespace {
-
-std::string Repeated(const std::string& text, int count) {
-    std::string repeated;
-    for (int i = 0; i < count; ++i)
-        repeated += text;
-    return repeated;
-}
 
 std::string WithExtent(const std::string& extent, std::string document) {
     const std::string usual = "320px 180px";

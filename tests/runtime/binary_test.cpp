@@ -1,7 +1,7 @@
 #include "runtime/binary.h"
 #include "runtime/exceptions.h"
 
-#include "tests/runtime/outcomes.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 

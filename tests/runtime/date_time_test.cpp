@@ -1,6 +1,6 @@
 #include "runtime/core_types.h"
 
-#include "tests/runtime/outcomes.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "runtime/core_types.h"
 #include "runtime/duration_text.h"
 
-#include "tests/runtime/outcomes.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@ class XmlGMonthDayFormatter; // may be declared ahead
 #include "runtime/formatters.h"
 
 #include "runtime/exceptions.h"
-#include "tests/runtime/outcomes.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 

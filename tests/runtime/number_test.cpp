@@ -1,6 +1,6 @@
 #include "runtime/number.h"
 
-#include "tests/runtime/outcomes.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 

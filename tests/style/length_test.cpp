@@ -8,9 +8,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <regex>
 #include <string_view>
-
-#include <regex.h>
+#include <vector>
 
 namespace {
 
@@ -29,36 +29,30 @@ constexpr LengthCase lengthCases[] = {
     {"007.250px", 7.25F, LENGTH_UNIT_PX, "007.250\n"},
     {"1000000000000000000000000000000000000000em", std::numeric_limits<float>::infinity(), LENGTH_UNIT_EM,
      "1000000000000000000000000000000000000000\n"},
-    {"24 px", 0, LENGTH_UNIT_NONE, ""},
-    {"-5px", 0, LENGTH_UNIT_NONE, ""},
-    {"+5px", 0, LENGTH_UNIT_NONE, ""},
-    {".5px", 0, LENGTH_UNIT_NONE, ""},
-    {"5.px", 0, LENGTH_UNIT_NONE, ""},
-    {"1e3px", 0, LENGTH_UNIT_NONE, ""},
-    {"24PX", 0, LENGTH_UNIT_NONE, ""},
-    {"24pt", 0, LENGTH_UNIT_NONE, ""},
-    {"24px ", 0, LENGTH_UNIT_NONE, ""},
-    {"24px\n", 0, LENGTH_UNIT_NONE, ""},
-    {{"24px\0", 5}, 0, LENGTH_UNIT_NONE, ""},
-    {{"24\0px", 5}, 0, LENGTH_UNIT_NONE, ""},
-    {"px", 0, LENGTH_UNIT_NONE, ""},
-    {"24", 0, LENGTH_UNIT_NONE, ""},
-    {"", 0, LENGTH_UNIT_NONE, ""},
 };
 
+constexpr std::string_view noLengths[] = {
+    "-5px", "+5px", "1e3px", "24PX", "24pt", "24px\n", {"24px\0", 5}, {"24\0px", 5}, "",
+};
+
+void vExpectLength(const LengthCase& test) {
+    SCOPED_TRACE(test.text);
+    float fValue = -1;
+    length_unit_e eUnit = LENGTH_UNIT_EM;
+    bool fgRead = false;
+    const std::string strOutput =
+        CapturedOutput([&] { fgRead = fgGetLength(std::string(test.text), fValue, eUnit); });
+    EXPECT_EQ(fgRead, test.eUnit != LENGTH_UNIT_NONE);
+    EXPECT_EQ(fValue, test.fValue);
+    EXPECT_EQ(eUnit, test.eUnit);
+    EXPECT_EQ(strOutput, test.output);
+}
+
 TEST(Length, ReadsOneLengthAndWritesItsNumber) {
-    for (const LengthCase& test : lengthCases) {
-        SCOPED_TRACE(test.text);
-        float fValue = -1;
-        length_unit_e eUnit = LENGTH_UNIT_EM;
-        bool fgRead = false;
-        const std::string strOutput =
-            CapturedOutput([&] { fgRead = fgGetLength(std::string(test.text), fValue, eUnit); });
-        EXPECT_EQ(fgRead, test.eUnit != LENGTH_UNIT_NONE);
-        EXPECT_EQ(fValue, test.fValue);
-        EXPECT_EQ(eUnit, test.eUnit);
-        EXPECT_EQ(strOutput, test.output);
-    }
+    for (const LengthCase& test : lengthCases)
+        vExpectLength(test);
+    for (const std::string_view text : noLengths)
+        vExpectLength({text, 0, LENGTH_UNIT_NONE, ""});
 }
 
 struct PairCase {
@@ -73,98 +67,66 @@ constexpr PairCase pairCases[] = {
     {"640px\t480px", 640, 480, LENGTH_UNIT_PX},
     {"640px\n480.5px", 640, 480.5F, LENGTH_UNIT_PX},
     {"50% 25.5%", 50, 25.5F, LENGTH_UNIT_PERCENT},
-    {"640px  480px", 0, 0, LENGTH_UNIT_NONE},
-    {"640px 50%", 0, 0, LENGTH_UNIT_NONE},
-    {"50% 640px", 0, 0, LENGTH_UNIT_NONE},
-    {"640px", 0, 0, LENGTH_UNIT_NONE},
-    {"640px480px", 0, 0, LENGTH_UNIT_NONE},
-    {{"1px\0002px", 7}, 0, 0, LENGTH_UNIT_NONE},
-    {{"1px 2px\0", 8}, 0, 0, LENGTH_UNIT_NONE},
-    {"1em 2em", 0, 0, LENGTH_UNIT_NONE},
-    {"auto", 0, 0, LENGTH_UNIT_NONE},
-    {" 1px 2px", 0, 0, LENGTH_UNIT_NONE},
-    {"", 0, 0, LENGTH_UNIT_NONE},
 };
 
-TEST(Length, ReadsAPairSilently) {
-    for (const PairCase& test : pairCases) {
-        SCOPED_TRACE(test.text);
-        float fFirst = -1;
-        float fSecond = -1;
-        length_unit_e eUnit = LENGTH_UNIT_EM;
-        bool fgRead = false;
-        const std::string strOutput = CapturedOutput(
-            [&] { fgRead = fgGetDoubleLength(std::string(test.text), fFirst, fSecond, eUnit); });
-        EXPECT_EQ(fgRead, test.eUnit != LENGTH_UNIT_NONE);
-        EXPECT_EQ(fFirst, test.fFirst);
-        EXPECT_EQ(fSecond, test.fSecond);
-        EXPECT_EQ(eUnit, test.eUnit);
-        EXPECT_EQ(strOutput, "");
-    }
+constexpr std::string_view noPairs[] = {
+    "640px  480px",   "640px 50%", "50% 640px", "640px",    "640px480px", {"1px\0002px", 7},
+    {"1px 2px\0", 8}, "1em 2em",   "auto",      " 1px 2px", "",
+};
+
+void vExpectPair(const PairCase& test) {
+    SCOPED_TRACE(test.text);
+    float fFirst = -1;
+    float fSecond = -1;
+    length_unit_e eUnit = LENGTH_UNIT_EM;
+    bool fgRead = false;
+    const std::string strOutput =
+        CapturedOutput([&] { fgRead = fgGetDoubleLength(std::string(test.text), fFirst, fSecond, eUnit); });
+    EXPECT_EQ(fgRead, test.eUnit != LENGTH_UNIT_NONE);
+    EXPECT_EQ(fFirst, test.fFirst);
+    EXPECT_EQ(fSecond, test.fSecond);
+    EXPECT_EQ(eUnit, test.eUnit);
+    EXPECT_EQ(strOutput, "");
 }
 
-/// The grammar of lengths as POSIX reads it.
-class Pattern {
-public:
-    explicit Pattern(const char* pattern) { regcomp(&expression, pattern, REG_EXTENDED | REG_NOSUB); }
-    ~Pattern() { regfree(&expression); }
-    Pattern(const Pattern&) = delete;
-    Pattern& operator=(const Pattern&) = delete;
-    bool fgMatches(const std::string& strText) const {
-        return regexec(&expression, strText.c_str(), 0, nullptr, 0) == 0;
-    }
+TEST(Length, ReadsAPairSilently) {
+    for (const PairCase& test : pairCases)
+        vExpectPair(test);
+    for (const std::string_view text : noPairs)
+        vExpectPair({text, 0, 0, LENGTH_UNIT_NONE});
+}
 
-private:
-    regex_t expression;
-};
+/// Whether both readers take a text for what the grammar of lengths says.
+bool fgAgrees(const std::string& strText) {
+    static const std::regex length("[0-9]+(\\.[0-9]+)?(px|%|c|em)");
+    static const std::regex pixels("[0-9]+(\\.[0-9]+)?px\\s[0-9]+(\\.[0-9]+)?px");
+    static const std::regex percent("[0-9]+(\\.[0-9]+)?%\\s[0-9]+(\\.[0-9]+)?%");
+    float fFirst = 0;
+    float fSecond = 0;
+    length_unit_e eUnit = LENGTH_UNIT_NONE;
+    const bool fgRead = fgGetLength(strText, fFirst, eUnit);
+    const bool fgNumber = fFirst == static_cast<float>(fgRead ? std::atof(strText.c_str()) : 0);
+    const bool fgPair = fgGetDoubleLength(strText, fFirst, fSecond, eUnit);
+    return fgNumber && fgRead == std::regex_match(strText, length) &&
+           (fgPair && eUnit == LENGTH_UNIT_PX) == std::regex_match(strText, pixels) &&
+           (fgPair && eUnit == LENGTH_UNIT_PERCENT) == std::regex_match(strText, percent);
+}
 
-/// Tells whether both readers take a text for what the patterns say.
-class Comparison {
-public:
-    Comparison() : pOutput(std::cout.rdbuf(nullptr)) {}
-    ~Comparison() { std::cout.rdbuf(pOutput); }
-    Comparison(const Comparison&) = delete;
-    Comparison& operator=(const Comparison&) = delete;
-
-    bool fgAgrees(const std::string& strText) const {
-        float fFirst = 0;
-        float fSecond = 0;
-        length_unit_e eUnit = LENGTH_UNIT_NONE;
-        const bool fgRead = fgGetLength(strText, fFirst, eUnit);
-        const bool fgNumber = fFirst == static_cast<float>(fgRead ? std::atof(strText.c_str()) : 0);
-        const bool fgPair = fgGetDoubleLength(strText, fFirst, fSecond, eUnit);
-        return fgNumber && fgRead == length.fgMatches(strText) &&
-               (fgPair && eUnit == LENGTH_UNIT_PX) == pixels.fgMatches(strText) &&
-               (fgPair && eUnit == LENGTH_UNIT_PERCENT) == percent.fgMatches(strText);
-    }
-
-private:
-    std::streambuf* pOutput;
-    Pattern length{"^[0-9]+(\\.[0-9]+)?(px|%|c|em)$"};
-    Pattern pixels{"^[0-9]+(\\.[0-9]+)?px\\s[0-9]+(\\.[0-9]+)?px$"};
-    Pattern percent{"^[0-9]+(\\.[0-9]+)?%\\s[0-9]+(\\.[0-9]+)?%$"};
-};
-
-TEST(Length, AcceptsWhatThePatternsAccept) {
+TEST(Length, AcceptsWhatTheGrammarAccepts) {
     constexpr std::string_view characters = "05.px%cem \ta";
     constexpr std::size_t uLongest = 5;
-    const Comparison comparison;
     std::vector<std::string> vecDisagreed;
-    const auto vCompare = [&](const std::string& strText) {
-        if (!comparison.fgAgrees(strText))
-            vecDisagreed.push_back(strText);
-    };
-    std::vector<std::string> vecShorter = {""};
-    for (std::size_t i = 0; i < vecShorter.size(); ++i) {
-        for (const char character : characters) {
-            const std::string strText = vecShorter[i] + character;
-            vCompare(strText);
-            if (strText.size() < uLongest)
-                vecShorter.push_back(strText);
-        }
-    }
+    std::vector<std::string> vecTexts = {""};
     for (int i = 1; i < 256; ++i)
-        vCompare(std::string("1px") + static_cast<char>(i) + "2px");
+        vecTexts.push_back(std::string("1px") + static_cast<char>(i) + "2px");
+    CapturedOutput([&] {
+        for (std::size_t i = 0; i < vecTexts.size(); ++i) {
+            if (!fgAgrees(vecTexts[i]))
+                vecDisagreed.push_back(vecTexts[i]);
+            for (const char character : vecTexts[i].size() < uLongest ? characters : "")
+                vecTexts.push_back(vecTexts[i] + character);
+        }
+    });
     EXPECT_EQ(vecDisagreed, std::vector<std::string>());
 }
 

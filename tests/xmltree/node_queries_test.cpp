@@ -1,3 +1,4 @@
+#include "tests/support/repeated.h"
 #include "tests/xmltree/sample_document.h"
 #include "xmltree/namespace_prefixes.h"
 
@@ -116,15 +117,7 @@ TEST(NodeQueries, TextOfANodeByItsKind) {
 
 TEST(NodeQueries, DeepDocumentsAreWalkedWithoutRecursion) {
     constexpr std::size_t DEPTH = 100000;
-    std::string xml;
-    for (std::size_t i = 0; i < DEPTH; ++i) {
-        xml += "<e xmlns='u'>x";
-    }
-    xml += "<end/>";
-    for (std::size_t i = 0; i < DEPTH; ++i) {
-        xml += "y</e>";
-    }
-    const SampleDocument sample(xml);
+    const SampleDocument sample(Repeated("<e xmlns='u'>x", DEPTH) + "<end/>" + Repeated("y</e>", DEPTH));
     EXPECT_EQ(Tree::GetTextValue(sample.Root()).size(), 2 * DEPTH);
     const MemberInfo member = Attribute("urn:n", "a");
     DOMElement* end = sample.Element("end");

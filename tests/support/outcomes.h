@@ -1,6 +1,6 @@
-// What the tables of this floor's tests share.
-#ifndef XTTML_TESTS_RUNTIME_OUTCOMES_H
-#define XTTML_TESTS_RUNTIME_OUTCOMES_H
+// What tables of cases share: messages of exceptions, and texts that have one outcome.
+#ifndef XTTML_TESTS_SUPPORT_OUTCOMES_H
+#define XTTML_TESTS_SUPPORT_OUTCOMES_H
 
 #include <string>
 #include <typeinfo>
