@@ -1,14 +1,12 @@
 """Bash completes every command, every option and the values of options."""
 
-import pathlib
 import re
 import shlex
 import shutil
 import subprocess
-import tempfile
 import unittest
 
-from tool_runs import ROOT, TOOL, main, output_of
+from tool_runs import ROOT, TOOL, ToolTest, main, output_of
 
 SCRIPT = ROOT / "tools" / "xttml" / "completion" / "xttml.bash"
 
@@ -24,12 +22,10 @@ FILES, FOLDERS, NOTHING = [], "compopt -o dirnames +o default".split(), "compopt
 
 
 @unittest.skipUnless(shutil.which("bash"), "bash is not installed")
-class Completion(unittest.TestCase):
+class Completion(ToolTest):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.tool = pathlib.Path(folder.name) / "xttml"
-        self.tool.write_text(f'#!/bin/sh\nexec {shlex.join(TOOL)} "$@"\n')
+        super().setUp()
+        self.tool = self.write("xttml", f'#!/bin/sh\nexec {shlex.join(TOOL)} "$@"\n'.encode())
         self.tool.chmod(0o755)
 
     def completed(self, *words):

@@ -1,10 +1,8 @@
 """What convert makes of items in each format."""
 
-import pathlib
-import tempfile
 import unittest
 
-from tool_runs import DONE, EXAMPLES, FAILED, HEAD, WRONG_USAGE, document, main, output_of, run
+from tool_runs import DONE, EXAMPLES, FAILED, HEAD, WRONG_USAGE, ToolTest, document, main, output_of, run
 
 FORMATS = ("srt", "vtt", "ass", "txt")
 ROOT_EXTENT = ' tts:extent="1280px 720px"'
@@ -157,14 +155,7 @@ class Cues(unittest.TestCase):
         self.assertEqual(len(rules), 7)
 
 
-class Files(unittest.TestCase):
-    def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
-
-    def path(self, name):
-        return pathlib.Path(self.folder.name) / name
-
+class Files(ToolTest):
     def test_the_format_is_that_of_the_ending_or_of_the_option(self):
         data = document(("1s", "2s", "a"))
         for name, options, target in (
@@ -175,14 +166,14 @@ class Files(unittest.TestCase):
             ("text.srt", ("--to", "TXT"), "txt"),
         ):
             with self.subTest(name):
-                self.assertEqual(output_of("convert", "-", "-o", self.path(name), *options, data=data), "")
-                self.assertEqual(self.path(name).read_text(), converted(data, target))
+                self.assertEqual(output_of("convert", "-", "-o", self.folder / name, *options, data=data), "")
+                self.assertEqual((self.folder / name).read_text(), converted(data, target))
         for target in ("-", "film", "film.ttml", ".srt"):
             self.assertEqual(run("convert", "-", "-o", target, data=data).returncode, WRONG_USAGE)
         self.assertEqual(run("convert", "-", "-o", "-", "--to", "sub", data=data).returncode, WRONG_USAGE)
 
     def test_a_file_is_replaced_when_asked_and_never_left_half_written(self):
-        out = self.path("film.srt")
+        out = self.folder / "film.srt"
         self.assertEqual(run("convert", "-", "-o", out, data=b"<tt>").returncode, FAILED)
         self.assertFalse(out.exists())
         out.write_text("kept")

@@ -1,13 +1,10 @@
 """What render draws, read from the pixels, so that it holds with any font."""
 
-import pathlib
 import struct
-import tempfile
-import unittest
 
 import png_file
 from png_file import Picture
-from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, document, lines_of, main, run
+from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, ToolTest, document, lines_of, main, run
 
 HEAD = (
     '<tt xmlns="http://www.w3.org/ns/ttml" xmlns:tts="http://www.w3.org/ns/ttml#styling" tts:extent="%s">'
@@ -27,22 +24,7 @@ def picture(*options, time="1s", data=FILM):
     return Picture(done.stdout)
 
 
-class Folder(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.path = pathlib.Path(folder.name)
-
-    def names(self):
-        return sorted(path.name for path in self.path.iterdir())
-
-    def write(self, name, content):
-        path = self.path / name
-        path.write_bytes(content)
-        return path
-
-
-class Pixels(Folder):
+class Pixels(ToolTest):
     def assertInside(self, inner, outer):
         self.assertTrue(inner and inner[0] >= outer[0] and inner[1] >= outer[1]
                         and inner[2] <= outer[2] and inner[3] <= outer[3], f"{inner} in {outer}")
@@ -108,32 +90,31 @@ class Pixels(Folder):
         self.assertEqual(Picture(done.stdout).colours(), {BLACK})
 
 
-class Files(Folder):
+class Files(ToolTest):
     def test_a_picture_for_each_time(self):
-        shown = lines_of("render", "-", "1.5s", "0", "01:00:00", "1500", "-o", self.path / "at-%.png", data=FILM)
+        shown = lines_of("render", "-", "1.5s", "0", "01:00:00", "1500", "-o", self.folder / "at-%.png", data=FILM)
         names = ["at-00-00-00.000.png", "at-00-00-01.500.png", "at-01-00-00.000.png"]
-        self.assertEqual(shown, [f"{self.path / name}  {count} item{'s' * (count != 1)}"
+        self.assertEqual(shown, [f"{self.folder / name}  {count} item{'s' * (count != 1)}"
                                  for name, count in zip(names, (0, 1, 0))])
         self.assertEqual(self.names(), names)
-        inks = [RED in Picture((self.path / name).read_bytes()).colours() for name in names]
+        inks = [RED in Picture((self.folder / name).read_bytes()).colours() for name in names]
         self.assertEqual(inks, [False, True, False])
 
     def test_what_is_there_is_kept_unless_forced(self):
         kept = self.write("00-00-02.000.png", b"mine")
-        render = ("render", "-", "1s", "2s", "-o", self.path / "%.png")
-        refused = run(*render, data=FILM)
-        self.assertEqual((refused.returncode, kept.read_bytes(), self.names()), (FAILED, b"mine", [kept.name]))
-        self.assertIn(b"exists; --force replaces it", refused.stderr)
+        render = ("render", "-", "1s", "2s", "-o", self.folder / "%.png")
+        self.assert_ends(FAILED, "exists; --force replaces it", *render, data=FILM)
+        self.assertEqual((kept.read_bytes(), self.names()), (b"mine", [kept.name]))
         lines_of(*render, "--force", data=FILM)
         self.assertEqual((len(self.names()), Picture(kept.read_bytes()).size), (2, (160, 120)))
 
     def test_a_percent_sign_of_a_folder_stands_for_itself(self):
-        (self.path / "100%").mkdir()
-        lines_of("render", "-", "1s", "-o", self.path / "100%" / "a.png", data=FILM)
-        self.assertEqual([path.name for path in (self.path / "100%").iterdir()], ["a.png"])
+        (self.folder / "100%").mkdir()
+        lines_of("render", "-", "1s", "-o", self.folder / "100%" / "a.png", data=FILM)
+        self.assertEqual([path.name for path in (self.folder / "100%").iterdir()], ["a.png"])
 
 
-class Sheets(Folder):
+class Sheets(ToolTest):
     def test_every_item_has_its_place(self):
         paragraphs = [(f"{i}s", f"{i}.5s", "XX") for i in range(5)]
         for columns, size in ((None, 40), (1, 40), (2, 40), (3, 40), (9, 40), (2, 60)):
@@ -157,20 +138,20 @@ class Sheets(Folder):
 
     def test_what_one_sheet_does_not_hold_is_on_several(self):
         data = document(*((f"{i}s", f"{i}.5s", "x") for i in range(700)))
-        alone = run("render", "-", "--sheet", self.path / "a.png", "--columns", "2", data=data)
-        self.assertEqual((alone.returncode, self.names()), (FAILED, []))
-        self.assertIn(b"its items fill 5 sheets; a % in the name", alone.stderr)
-        several = ("--sheet", self.path / "%.png", "--columns", "2", "--size", "20x80")
+        alone = ("render", "-", "--sheet", self.folder / "a.png", "--columns", "2")
+        self.assert_ends(FAILED, "its items fill 5 sheets; a % in the name", *alone, data=data)
+        self.assertEqual(self.names(), [])
+        several = ("--sheet", self.folder / "%.png", "--columns", "2", "--size", "20x80")
         shown = lines_of("render", "-", *several, data=data)
         spans = ("1 to 320", "321 to 640", "641 to 700")
-        self.assertEqual(shown, [f"{self.path / f'{i}.png'}  items {span}" for i, span in enumerate(spans, 1)])
-        heights = [Picture((self.path / name).read_bytes()).height for name in self.names()]
+        self.assertEqual(shown, [f"{self.folder / f'{i}.png'}  items {span}" for i, span in enumerate(spans, 1)])
+        heights = [Picture((self.folder / name).read_bytes()).height for name in self.names()]
         self.assertEqual(heights, [8 + rows * 102 for rows in (160, 160, 30)])
 
 
-class Failures(Folder):
+class Failures(ToolTest):
     def test_wrong_usage(self):
-        out = ("-o", self.path / "a.png")
+        out = ("-o", self.folder / "a.png")
         for arguments in (
             ("1s",), out, ("1s", "2s", *out), ("x", *out), ("1s", "--sheet", "a"), ("--sheet", "a", *out),
             ("1s", *out, "--columns", "2"),
@@ -192,24 +173,19 @@ class Failures(Folder):
         for name, frame in frames.items():
             if frame is not None:
                 self.write(name, frame)
-        cases = [(FILM, ("--over", self.path / name), f"{name}: {why}") for name, why in zip(frames, reasons)]
+        cases = [(FILM, ("--over", self.folder / name), f"{name}: {why}") for name, why in zip(frames, reasons)]
         cases += [((HEAD % extent + BODY).encode(), (), "is too large for a picture; --size")
                   for extent in ("99999px 99999px", "4294967295px 1px", "1px 16385px")]
         there = self.names()
         for data, options, reason in cases:
-            with self.subTest(reason):
-                done = run("render", "-", "1s", "-o", self.path / "a.png", *options, data=data)
-                self.assertEqual(done.returncode, FAILED)
-                self.assertIn(reason, done.stderr.decode())
+            self.assert_ends(FAILED, reason, "render", "-", "1s", "-o", self.folder / "a.png", *options, data=data)
         self.assertEqual(self.names(), there)
         for data, options, reason in (
             (document(), (), "has no items"),
             (FILM, ("--size", "16384x10"), "6 columns of 16384x10 px are too large for a picture"),
             (FILM, ("--size", "8192x8192"), "6 columns of 8192x8192 px are too large for a picture"),
         ):
-            done = run("render", "-", "--sheet", "-", *options, data=data)
-            self.assertEqual((done.returncode, done.stdout), (FAILED, b""))
-            self.assertIn(reason, done.stderr.decode())
+            self.assert_ends(FAILED, reason, "render", "-", "--sheet", "-", *options, data=data)
         self.assertEqual(picture(data=(HEAD % "0px 0px" + BODY).encode()).size, (1024, 768))
         far = (HEAD % "99999px 99999px" + BODY).encode()
         self.assertEqual(picture("--size", "160x120", time="0", data=far).size, (160, 120))

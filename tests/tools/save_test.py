@@ -1,11 +1,8 @@
 """A saved document has the encoding asked for and shows the same as before."""
 
 import codecs
-import pathlib
-import tempfile
-import unittest
 
-from tool_runs import EXAMPLES, FAILED, WRONG_USAGE, document, json_of, lines_of, main, run
+from tool_runs import EXAMPLES, FAILED, WRONG_USAGE, ToolTest, document, json_of, lines_of, main, run
 
 HEBREW = EXAMPLES / "market.he.ttml"
 
@@ -24,11 +21,10 @@ FORMS = (
 )
 
 
-class Save(unittest.TestCase):
+class Save(ToolTest):
     def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
-        self.out = pathlib.Path(self.folder.name) / "out.ttml"
+        super().setUp()
+        self.out = self.folder / "out.ttml"
 
     def test_forms(self):
         before = lines_of("list", HEBREW)
@@ -49,30 +45,28 @@ class Save(unittest.TestCase):
     def test_failures(self):
         self.out.write_bytes(b"mine")
         force = (HEBREW, "--force", "-o", self.out)
-        for arguments, code, reason in (
-            ((*force, "--encoding", "no-such"), FAILED, b"the encoding 'no-such' is not known"),
-            ((*force, "--encoding", ""), FAILED, b"the encoding '' is not known"),
-            ((*force, "--encoding", "UTF-7"), FAILED, b"'UTF-7'"),
-            ((*force, "--encoding", "UTF-16LE", "--big-endian"), WRONG_USAGE, b"no meaning in UTF-16LE"),
-            ((*force, "--big-endian"), WRONG_USAGE, b"no meaning in UTF-8"),
-            ((HEBREW, "-o", self.out), FAILED, b"out.ttml: exists; --force replaces it"),
-            ((HEBREW, "-o", self.out.parent, "--force"), FAILED, b"Is a directory"),
-            ((HEBREW, "-o", self.out.parent / "no" / "file"), FAILED, b"No such file"),
-            ((HEBREW, "-o", "/dev/full"), FAILED, b"No space left"),
-            ((EXAMPLES / "README.md", "-o", self.out), FAILED, b"README.md:1:1: "),
-            ((HEBREW,), WRONG_USAGE, b"--output"),
+        for code, reason, *arguments in (
+            (FAILED, "the encoding 'no-such' is not known", *force, "--encoding", "no-such"),
+            (FAILED, "the encoding '' is not known", *force, "--encoding", ""),
+            (FAILED, "'UTF-7'", *force, "--encoding", "UTF-7"),
+            (WRONG_USAGE, "no meaning in UTF-16LE", *force, "--encoding", "UTF-16LE", "--big-endian"),
+            (WRONG_USAGE, "no meaning in UTF-8", *force, "--big-endian"),
+            (FAILED, "out.ttml: exists; --force replaces it", HEBREW, "-o", self.out),
+            (FAILED, "Is a directory", HEBREW, "-o", self.folder, "--force"),
+            (FAILED, "No such file", HEBREW, "-o", self.folder / "no" / "file"),
+            (FAILED, "No space left", HEBREW, "-o", "/dev/full"),
+            (FAILED, "README.md:1:1: ", EXAMPLES / "README.md", "-o", self.out),
+            (WRONG_USAGE, "--output", HEBREW),
         ):
-            done = run("save", *arguments)
-            self.assertEqual(done.returncode, code, arguments)
-            self.assertIn(reason, done.stderr)
+            self.assert_ends(code, reason, "save", *arguments)
         deep = document((None, None, "<span>" * 10001 + "</span>" * 10001))
         done = run("save", "-", "--trusted", "-o", "-", data=deep)
         self.assertEqual((done.returncode, done.stderr), (FAILED, b"xttml: -: nests elements too deep to be saved\n"))
         self.assertEqual(self.out.read_bytes(), b"mine", "what cannot be saved replaces nothing")
-        self.assertEqual(list(self.out.parent.iterdir()), [self.out])
+        self.assertEqual(self.names(), ["out.ttml"])
 
     def test_what_is_replaced_keeps_its_mode_and_its_links(self):
-        target = self.out.parent / "target.ttml"
+        target = self.folder / "target.ttml"
         target.write_bytes(b"old")
         target.chmod(0o640)
         self.out.symlink_to(target)

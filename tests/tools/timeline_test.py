@@ -1,12 +1,10 @@
 """The chart that timeline draws."""
 
-import pathlib
-import tempfile
 import unittest
 import xml.etree.ElementTree as ElementTree
 
 from png_file import Picture
-from tool_runs import EXAMPLES, FAILED, WRONG_USAGE, document, main, output_of, run
+from tool_runs import EXAMPLES, FAILED, WRONG_USAGE, ToolTest, document, main, output_of
 
 SVG = "{http://www.w3.org/2000/svg}"
 
@@ -20,11 +18,14 @@ class Bar:
         self.kind = element.get("class")
 
 
+def bars_of(chart):
+    return [Bar(shape) for shape in chart if shape.find(f"{SVG}title") is not None]
+
+
 def read(*arguments, data):
-    """The bars and the words of a chart."""
+    """The bars, the words and the height of a chart."""
     chart = ElementTree.fromstring(output_of("timeline", "-", "-o", "-", *arguments, data=data))
-    bars = [Bar(shape) for shape in chart if shape.find(f"{SVG}title") is not None]
-    return bars, [text.text for text in chart.iter(f"{SVG}text")], int(chart.get("height"))
+    return bars_of(chart), [text.text for text in chart.iter(f"{SVG}text")], int(chart.get("height"))
 
 
 class Timeline(unittest.TestCase):
@@ -81,31 +82,26 @@ class Timeline(unittest.TestCase):
         self.assertLess(max(map(len, [bars[1].title, *words])), 500)
 
 
-class Files(unittest.TestCase):
+class Files(ToolTest):
     def test_both_kinds(self):
-        with tempfile.TemporaryDirectory() as folder:
-            svg, png = pathlib.Path(folder) / "a.svg", pathlib.Path(folder) / "a.png"
-            images = ("--images", EXAMPLES / "pictures.en.pngs")
-            for file in (svg, png):
-                output_of("timeline", EXAMPLES / "pictures.en.ttml", *images, "-o", file)
-                again = run("timeline", EXAMPLES / "pictures.en.ttml", *images, "-o", file)
-                self.assertEqual(again.returncode, FAILED)
-                self.assertIn(b"exists; --force replaces it", again.stderr)
-            chart = ElementTree.fromstring(svg.read_text())
-            drawn = Picture(png.read_bytes())
-            self.assertEqual(drawn.size, (int(chart.get("width")), int(chart.get("height"))))
-            for shape in chart:
-                if shape.find(f"{SVG}title") is not None:
-                    x, y, width = (float(shape.get(name)) for name in ("x", "y", "width"))
-                    inside = drawn.at(int(x + width) - 3, int(y) + 3)
-                    forced = shape.get("class") == "item forced"
-                    self.assertEqual(inside, (242, 142, 43, 255) if forced else (62, 108, 156, 255))
+        svg, png = self.folder / "a.svg", self.folder / "a.png"
+        for file in (svg, png):
+            timeline = ("timeline", EXAMPLES / "pictures.en.ttml", "--images", EXAMPLES / "pictures.en.pngs", "-o", file)
+            output_of(*timeline)
+            self.assert_ends(FAILED, "exists; --force replaces it", *timeline)
+        chart = ElementTree.fromstring(svg.read_text())
+        drawn = Picture(png.read_bytes())
+        self.assertEqual(drawn.size, (int(chart.get("width")), int(chart.get("height"))))
+        for bar in bars_of(chart):
+            inside = drawn.at(int(bar.x + bar.width) - 3, int(bar.y) + 3)
+            self.assertEqual(inside, (242, 142, 43, 255) if bar.kind == "item forced" else (62, 108, 156, 255))
 
     def test_failures(self):
-        for arguments, code in ((("-o", "a.txt"), WRONG_USAGE), (("-o", "a"), WRONG_USAGE), ((), WRONG_USAGE),
-                                (("-o", "/no/a.svg"), FAILED)):
-            self.assertEqual(run("timeline", EXAMPLES / "forced.en.ttml", *arguments).returncode, code)
-        self.assertIn(b"has no items", run("timeline", "-", "-o", "-", data=document()).stderr)
+        forced = EXAMPLES / "forced.en.ttml"
+        for arguments in (("-o", "a.txt"), ("-o", "a"), ()):
+            self.assert_ends(WRONG_USAGE, "", "timeline", forced, *arguments)
+        self.assert_ends(FAILED, "No such file", "timeline", forced, "-o", "/no/a.svg")
+        self.assert_ends(FAILED, "has no items", "timeline", "-", "-o", "-", data=document())
 
 
 if __name__ == "__main__":

@@ -7,6 +7,7 @@ import pathlib
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
 
 TOOL = [*sys.argv[1:-1], str(pathlib.Path(sys.argv[-1]).resolve())]
@@ -83,6 +84,35 @@ def json_of(*arguments, data=None):
 def environment(**changes):
     """This process's environment with some variables set."""
     return {**os.environ, **changes}
+
+
+class ToolTest(unittest.TestCase):
+    """A test with a folder of its own."""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+    def write(self, name, content):
+        """A file in the folder."""
+        path = self.folder / name
+        path.write_bytes(content)
+        return path
+
+    def names(self):
+        """The files in the folder."""
+        return sorted(path.name for path in self.folder.iterdir())
+
+    def assert_ends(self, code, reason, *arguments, data=None):
+        """A run ends with a code, writes no result and says why."""
+        done = run(*arguments, data=data)
+        self.assertEqual((done.returncode, done.stdout), (code, b""), arguments)
+        self.assertIn(reason, done.stderr.decode(), arguments)
+
+    def assert_no_control_characters(self, text):
+        """Nothing but line ends."""
+        self.assertFalse([c for c in text if c != "\n" and (ord(c) < 32 or 127 <= ord(c) < 160)], text)
 
 
 def main():
