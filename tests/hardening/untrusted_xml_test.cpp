@@ -125,77 +125,86 @@ std::string WithColor(const char* namespaceName, std::size_t length) {
     return std::string("<tt xmlns:s='") + namespaceName + "' s:color='" + Letters(length) + "'/>";
 }
 
+std::string WithValue(std::size_t length) {
+    return "<tt id='" + Letters(length) + "'/>";
+}
+
+std::string Inside(const std::string& piece, std::size_t count) {
+    return "<tt>" + Repeated(piece, count) + "</tt>";
+}
+
+/// What a document may have so many of, or of such a length; a document that has it; what is said of one
+/// more.
+struct Bound {
+    std::size_t limit;
+    std::string (*make)(std::size_t);
+    const char* before;
+    const char* after;
+
+    std::string Refusal() const {
+        return std::string("Xerces SAX error while loading: ") + before + std::to_string(limit) + after;
+    }
+};
+
+const Bound depth = {XTTML_UNTRUSTED_MAX_DEPTH, NestedTo, "Elements are nested more than ", " deep."};
+const Bound value = {XTTML_UNTRUSTED_MAX_VALUE, WithValue, "An attribute value is longer than ",
+                     " characters."};
+
+Bound Nodes(std::string (*make)(std::size_t)) {
+    return {XTTML_UNTRUSTED_MAX_NODES, make, "The document has more than ", " nodes."};
+}
+
+Bound Names(std::string (*make)(std::size_t)) {
+    return {XTTML_UNTRUSTED_MAX_NAMES, make, "The document has more than ", " different names."};
+}
+
+Bound Name(std::string (*make)(std::size_t)) {
+    return {XTTML_UNTRUSTED_MAX_NAME, make, "A name is longer than ", " characters."};
+}
+
+const Bound bounds[] = {
+    depth,
+    Nodes([](std::size_t count) { return Inside("<b/>", count - 1); }),
+    Nodes([](std::size_t count) {
+        return "<tt>" + Repeated("<b a='' b=''/>", (count - 1) / 3) + Repeated("<b/>", (count - 1) % 3) +
+               "</tt>";
+    }),
+    Nodes([](std::size_t count) { return Inside("<!---->", count - 1); }),
+    Nodes([](std::size_t count) { return Inside("<?a?>", count - 1); }),
+    {XTTML_UNTRUSTED_MAX_ATTRIBUTES, WithAttributes, "An element has more than ", " attributes."},
+    value,
+    {XTTML_UNTRUSTED_MAX_VALUE, [](std::size_t length) { return WithColor("urn:other", length); },
+     value.before, value.after},
+    {XTTML_UNTRUSTED_MAX_STYLING_VALUE,
+     [](std::size_t length) { return WithColor("http://www.w3.org/ns/ttml#styling", length); },
+     "A styling value is longer than ", " characters."},
+    Names([](std::size_t count) { return Numbered("<e", "/>", count - 1); }),
+    Names([](std::size_t count) { return Numbered("<e a", "=''/>", count - 2); }),
+    Name([](std::size_t length) { return "<" + Letters(length) + "/>"; }),
+    Name([](std::size_t length) { return "<tt " + Letters(length) + "=''/>"; }),
+    {XTTML_UNTRUSTED_MAX_NAMESPACES,
+     [](std::size_t count) { return Numbered("<e xmlns='urn:", "'/>", count); },
+     "The document has more than ", " namespaces."},
+    {XTTML_UNTRUSTED_MAX_NAMESPACE,
+     [](std::size_t length) { return "<tt><e xmlns:p='" + Letters(length) + "'/></tt>"; },
+     "A namespace is longer than ", " characters."},
+    {XTTML_UNTRUSTED_MAX_DECLARATIONS, Declaring, "More than ", " namespace declarations are in scope."},
+};
+
 TEST(UntrustedXml, BoundsWhatADocumentHas) {
     const XercesSession session;
-    constexpr std::size_t depth = XTTML_UNTRUSTED_MAX_DEPTH;
-    constexpr std::size_t nodes = XTTML_UNTRUSTED_MAX_NODES;
-    constexpr std::size_t attributes = XTTML_UNTRUSTED_MAX_ATTRIBUTES;
-    constexpr std::size_t value = XTTML_UNTRUSTED_MAX_VALUE;
-    constexpr std::size_t stylingValue = XTTML_UNTRUSTED_MAX_STYLING_VALUE;
-    constexpr std::size_t names = XTTML_UNTRUSTED_MAX_NAMES;
-    constexpr std::size_t name = XTTML_UNTRUSTED_MAX_NAME;
-    constexpr std::size_t namespaces = XTTML_UNTRUSTED_MAX_NAMESPACES;
-    constexpr std::size_t namespaceLength = XTTML_UNTRUSTED_MAX_NAMESPACE;
-    constexpr std::size_t declarations = XTTML_UNTRUSTED_MAX_DECLARATIONS;
-    constexpr char styling[] = "http://www.w3.org/ns/ttml#styling";
-    const auto content = [](const std::string& piece, std::size_t count) {
-        return "<tt>" + Repeated(piece, count) + "</tt>";
-    };
-    const auto tag = [](std::size_t length) { return "<" + Letters(length) + "/>"; };
-    const auto valued = [](std::size_t length) { return "<tt id='" + Letters(length) + "'/>"; };
-    const auto message = [](const char* before, std::size_t limit, const char* after) {
-        return before + std::to_string(limit) + after;
-    };
-    const std::string tooDeep = message("Elements are nested more than ", depth, " deep.");
-    const std::string tooManyNodes = message("The document has more than ", nodes, " nodes.");
-    const std::string tooManyNames = message("The document has more than ", names, " different names.");
-    const std::string longName = message("A name is longer than ", name, " characters.");
-    const std::string longValue = message("An attribute value is longer than ", value, " characters.");
-    const std::string tooManyNamespaces = message("The document has more than ", namespaces, " namespaces.");
-    const std::string longNamespace = message("A namespace is longer than ", namespaceLength, " characters.");
-    const std::string tooManyDeclarations =
-        message("More than ", declarations, " namespace declarations are in scope.");
-    const struct {
-        const char* what;
-        std::string accepted;
-        std::string refused;
-        std::string message;
-    } cases[] = {
-        {"depth", NestedTo(depth), NestedTo(depth + 1), tooDeep},
-        {"depth of empty elements", content("<br/>", 2 * depth), NestedTo(20000), tooDeep},
-        {"elements", content("<b/>", nodes - 1), content("<b/>", nodes), tooManyNodes},
-        {"attributes of elements", content("<b a='' b=''/>", (nodes - 1) / 3),
-         content("<b a='' b=''/>", nodes / 3 + 1), tooManyNodes},
-        {"comments", content("<!---->", nodes - 1), content("<!---->", nodes), tooManyNodes},
-        {"instructions", content("<?a?>", nodes - 1), content("<?a?>", nodes), tooManyNodes},
-        {"attributes", WithAttributes(attributes), WithAttributes(attributes + 1),
-         message("An element has more than ", attributes, " attributes.")},
-        {"values", valued(value), valued(value + 1), longValue},
-        {"a huge value", valued(1000), valued(2000000), longValue},
-        {"styling values", WithColor(styling, stylingValue), WithColor(styling, stylingValue + 1),
-         message("A styling value is longer than ", stylingValue, " characters.")},
-        {"values of another namespace", WithColor("urn:other", value), WithColor("urn:other", value + 1),
-         longValue},
-        {"element names", Numbered("<e", "/>", names - 1), Numbered("<e", "/>", names), tooManyNames},
-        {"attribute names", Numbered("<e a", "=''/>", names - 2), Numbered("<e a", "=''/>", names - 1),
-         tooManyNames},
-        {"an element's name", tag(name), tag(name + 1), longName},
-        {"an attribute's name", "<tt " + Letters(name) + "=''/>", "<tt " + Letters(name + 1) + "=''/>",
-         longName},
-        {"namespaces", Numbered("<e xmlns='urn:", "'/>", namespaces),
-         Numbered("<e xmlns='urn:", "'/>", namespaces + 1), tooManyNamespaces},
-        {"a namespace", "<tt xmlns='" + Letters(namespaceLength) + "'/>",
-         "<tt><e xmlns:p='" + Letters(namespaceLength + 1) + "'/></tt>", longNamespace},
-        {"declarations", Declaring(declarations), Declaring(declarations + 1), tooManyDeclarations},
-        {"declarations one after the other", content("<e xmlns='u' xmlns:p='u'/>", declarations),
-         Declaring(declarations + 1), tooManyDeclarations},
-    };
-    for (const auto& test : cases) {
-        EXPECT_EQ(TextOrRefusal(test.accepted, UNTRUSTED), "") << test.what;
-        EXPECT_EQ(TextOrRefusal(test.refused, UNTRUSTED), "Xerces SAX error while loading: " + test.message)
-            << test.what;
+    for (const Bound& bound : bounds) {
+        EXPECT_EQ(TextOrRefusal(bound.make(bound.limit), UNTRUSTED), "") << bound.make(4);
+        EXPECT_EQ(TextOrRefusal(bound.make(bound.limit + 1), UNTRUSTED), bound.Refusal()) << bound.make(4);
     }
-    EXPECT_EQ(TextOrRefusal(content("&#65;", nodes), UNTRUSTED).size(), nodes) << "one text";
+    EXPECT_EQ(TextOrRefusal(NestedTo(20000), UNTRUSTED), depth.Refusal());
+    EXPECT_EQ(TextOrRefusal(WithValue(2000000), UNTRUSTED), value.Refusal());
+    // one after the other, not one in the other; one text
+    EXPECT_EQ(TextOrRefusal(Inside("<br/>", 2 * depth.limit), UNTRUSTED), "");
+    constexpr std::size_t declarations = XTTML_UNTRUSTED_MAX_DECLARATIONS;
+    EXPECT_EQ(TextOrRefusal(Inside("<e xmlns='u' xmlns:p='u'/>", declarations), UNTRUSTED), "");
+    constexpr std::size_t nodes = XTTML_UNTRUSTED_MAX_NODES;
+    EXPECT_EQ(TextOrRefusal(Inside("&#65;", nodes), UNTRUSTED).size(), nodes);
 }
 
 TEST(UntrustedXml, BoundsTheSizeOfADocument) {
