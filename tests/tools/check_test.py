@@ -2,15 +2,13 @@
 
 import json
 import os
-import pathlib
 import pty
 import re
 import subprocess
-import tempfile
 import time
 import unittest
 
-from tool_runs import DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, json_of, lines_of, main, run
+from tool_runs import DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, ToolTest, json_of, lines_of, main, run
 
 ROOT_TAG = ('<tt xmlns="http://www.w3.org/ns/ttml" xmlns:tts="http://www.w3.org/ns/ttml#styling" '
             'xmlns:ttp="http://www.w3.org/ns/ttml#parameter" xmlns:cff="http://www.decellc.org/schema/2012/01/cff-tt-meta" '
@@ -211,7 +209,7 @@ class Findings(unittest.TestCase):
         self.assertEqual(len(findings(tt(f"<div>{''.join(paragraphs)}</div>"))), count - 1)
 
 
-class Output(unittest.TestCase):
+class Output(ToolTest):
     def test_places_are_those_of_the_start_tags(self):
         data = tt('<!-- \n -->é<div>\r\n  <p\n begin="1s"/> <p/></div>')
         for encoding in ("utf-8", "utf-16"):
@@ -238,27 +236,21 @@ class Output(unittest.TestCase):
         data = p(times='begin="1s" dur="2s"', attributes=' tts:color="Red"')
         self.assertEqual(len(findings(data)), 2)
         self.assertEqual(findings(data, "--ignore", "dur", "--ignore", "color"), [])
-        done = run("check", "--ignore", "nothing", "-")
-        self.assertEqual((done.returncode, done.stdout), (WRONG_USAGE, b""))
-        self.assertIn(b"'nothing'", done.stderr)
-        self.assertEqual(run("check").returncode, WRONG_USAGE)
+        self.assert_ends(WRONG_USAGE, "'nothing'", "check", "--ignore", "nothing", "-")
+        self.assert_ends(WRONG_USAGE, "", "check")
 
     def test_one_unusable_document_of_several(self):
-        with tempfile.NamedTemporaryFile() as bad:
-            bad.write(b"<tt>\n<body>")
-            bad.flush()
-            done = run("check", EXAMPLES / "forced.en.ttml", bad.name, EXAMPLES / "frames.de.ttml")
+        bad = self.write("bad.ttml", b"<tt>\n<body>")
+        done = run("check", EXAMPLES / "forced.en.ttml", bad, EXAMPLES / "frames.de.ttml")
         self.assertEqual((done.returncode, done.stdout.count(b"nothing found")), (FAILED, 2))
-        self.assertRegex(done.stderr.decode(), rf"\Axttml: {bad.name}:2:\d+: .*\n\Z")
+        self.assertRegex(done.stderr.decode(), rf"\Axttml: {bad}:2:\d+: .*\n\Z")
 
     def test_control_characters_do_not_reach_the_terminal(self):
-        with tempfile.TemporaryDirectory() as folder:
-            path = pathlib.Path(folder, "a\x1b[31m\nb.ttml")
-            path.write_bytes(p(attributes='style="&#x9b;31m&#10;&#x85;"', times=TIMED))
-            for option in ([], ["--json"]):
-                text = run("check", path, *option).stdout.decode()
-                self.assertFalse([c for c in text if (ord(c) < 32 and c != "\n") or 127 <= ord(c) < 160], text)
-                self.assertEqual(text.count("\n"), 2 if not option else 5)
+        path = self.write("a\x1b[31m\nb.ttml", p(attributes='style="&#x9b;31m&#10;&#x85;"'))
+        for options, lines in (([], 2), (["--json"], 5)):
+            text = run("check", path, *options).stdout.decode()
+            self.assert_no_control_characters(text)
+            self.assertEqual(text.count("\n"), lines)
 
     def test_progress_goes_to_a_terminal_alone(self):
         file = str(EXAMPLES / "forced.en.ttml")

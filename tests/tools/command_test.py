@@ -3,23 +3,10 @@
 import json
 import os
 import subprocess
-import tempfile
 import unittest
 
-from tool_runs import (
-    DONE,
-    EXAMPLES,
-    FAILED,
-    TOOL,
-    WRONG_USAGE,
-    document,
-    environment,
-    json_of,
-    lines_of,
-    main,
-    output_of,
-    run,
-)
+from tool_runs import (DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, ToolTest, document, environment, json_of, lines_of, main,
+                       output_of, run)
 
 FORCED = EXAMPLES / "forced.en.ttml"
 COMMANDS = ("list", "at", "play", "extract", "convert", "render", "timeline", "save")
@@ -31,14 +18,11 @@ class Usage(unittest.TestCase):
             [],
             ["show", FORCED],
             ["list"],
-            ["at", FORCED, "more"],
-            ["lst", FORCED],
             ["--json"],
             ["play", FORCED, "more"],
             ["play", FORCED, "--full"],
             ["list", FORCED, "--offset"],
             ["list", FORCED, "--offset", "1.5"],
-            ["list", FORCED, "--offset", "2147483648"],
             ["list", FORCED, "--combine"],
             ["at", FORCED],
             ["at", FORCED, "soon"],
@@ -76,7 +60,7 @@ class Usage(unittest.TestCase):
         self.assertRegex(lines_of("--version")[0], r"\Axttml \d+\.\d+\.\d+\Z")
 
 
-class UnusableDocuments(unittest.TestCase):
+class UnusableDocuments(ToolTest):
     def reason(self, arguments, data=b""):
         done = run(*arguments, data=data)
         self.assertEqual((done.returncode, done.stdout), (FAILED, b""))
@@ -87,24 +71,21 @@ class UnusableDocuments(unittest.TestCase):
         return lines[0][len(prefix):].lstrip()
 
     def test_what_is_no_readable_file(self):
-        with tempfile.TemporaryDirectory() as folder:
-            for file, reason in (
-                (f"{folder}/none.ttml", "No such file or directory"),
-                ("", "No such file or directory"),
-                (folder, "Is a directory"),
-                (f"{FORCED}/below", "Not a directory"),
-                ("http://127.0.0.1:1/film.ttml", "No such file or directory"),
-                ("file:///etc/passwd", "No such file or directory"),
-            ):
-                self.assertEqual(self.reason(["list", file]), reason)
+        for file, reason in (
+            (f"{self.folder}/none.ttml", "No such file or directory"),
+            ("", "No such file or directory"),
+            (self.folder, "Is a directory"),
+            (f"{FORCED}/below", "Not a directory"),
+            ("http://127.0.0.1:1/film.ttml", "No such file or directory"),
+            ("file:///etc/passwd", "No such file or directory"),
+        ):
+            self.assertEqual(self.reason(["list", file]), reason)
 
     def test_a_local_path_that_looks_like_an_address_stays_local(self):
-        with tempfile.TemporaryDirectory() as folder:
-            os.makedirs(f"{folder}/http:/127.0.0.1:1")
-            path = "http://127.0.0.1:1/film.ttml"
-            with open(f"{folder}/{path}", "wb") as file:
-                file.write(document(("1s", "2s", "here")))
-            self.assertIn(b"here", run("list", path, cwd=folder).stdout)
+        path = "http://127.0.0.1:1/film.ttml"
+        os.makedirs(self.folder / "http:/127.0.0.1:1")
+        self.write(path, document(("1s", "2s", "here")))
+        self.assertIn(b"here", run("list", path, cwd=self.folder).stdout)
 
     def test_what_is_no_usable_document(self):
         cases = (
@@ -112,43 +93,34 @@ class UnusableDocuments(unittest.TestCase):
             (b"plain text", r"1:1: \w"),
             (b"<tt>\n <body>", r"2:8: \w"),
             (b"<a/>", "no tt root element$"),
-            (document(root=' ttp:frameRate="fast"'), "ttp:frameRate: 'fast'"),
-            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '),
-             "forcedDisplayMode: 'maybe'"),
+            (document(("1s", "2s", "x"), root=' ttp:frameRate="fast"'), "ttp:frameRate: 'fast'"),
+            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '), "forcedDisplayMode: 'maybe'"),
             (b'<!DOCTYPE tt SYSTEM "tt.dtd"><tt/>', r"1:\d+: A document type declaration is not allowed.*--trusted"),
         )
         for data, expected in cases:
-            with tempfile.NamedTemporaryFile(suffix=".ttml") as file, self.subTest(data):
-                if data.startswith(b"<?xml") and b"<p" not in data:  # without a paragraph no rate is read
-                    data = data.replace(b"<div>", b"<div><p/>")
-                file.write(data)
-                file.flush()
+            with self.subTest(data):
+                file = self.write("film.ttml", data)
                 for command, *rest in (["list"], ["play"], ["at", "0"], ["save", "-o", "-"]):
                     if command == "save" and "'" in expected:  # reads no value
                         continue
-                    from_file = self.reason([command, file.name, *rest])
+                    from_file = self.reason([command, file, *rest])
                     self.assertEqual(from_file, self.reason([command, "-", *rest], data))
                     self.assertRegex(from_file, rf"\A{expected}")
 
     def test_control_characters_do_not_reach_the_terminal(self):
-        reason = self.reason(["list", "-"], b"<tt>\n</t\xc2\x9bt>")
-        self.assertFalse([c for c in reason if ord(c) < 32 or 127 <= ord(c) < 160], reason)
-
+        self.assert_no_control_characters(self.reason(["list", "-"], b"<tt>\n</t\xc2\x9bt>"))
 
     def test_a_trusted_document_names_others_beside_it(self):
-        with tempfile.TemporaryDirectory() as folder:
-            with open(f"{folder}/hi.txt", "wb") as file:
-                file.write(b"there")
-            with open(f"{folder}/film.ttml", "wb") as file:
-                file.write(b'<!DOCTYPE tt [<!ENTITY hi SYSTEM "hi.txt">]>'
-                           b"<tt><body><div><p>x<span>&hi;</span></p></div></body></tt>")
-            self.assertEqual(self.reason(["list", f"{folder}/film.ttml"])[:2], "1:")
-            self.assertIn("1 item", lines_of("list", f"{folder}/film.ttml", "--trusted")[0])
-            os.remove(f"{folder}/hi.txt")
-            self.assertIn("hi.txt", self.reason(["list", f"{folder}/film.ttml", "--trusted"]))
+        other = self.write("hi.txt", b"there")
+        film = self.write("film.ttml", b'<!DOCTYPE tt [<!ENTITY hi SYSTEM "hi.txt">]>'
+                                       b"<tt><body><div><p>x<span>&hi;</span></p></div></body></tt>")
+        self.assertEqual(self.reason(["list", film])[:2], "1:")
+        self.assertIn("1 item", lines_of("list", film, "--trusted")[0])
+        other.unlink()
+        self.assertIn("hi.txt", self.reason(["list", film, "--trusted"]))
 
 
-class Inputs(unittest.TestCase):
+class Inputs(ToolTest):
     def test_several_documents_and_one_that_is_unusable(self):
         frames = EXAMPLES / "frames.de.ttml"
         alone = {file: run("list", file).stdout.decode() for file in (FORCED, frames)}
@@ -166,15 +138,11 @@ class Inputs(unittest.TestCase):
                 self.assertEqual(from_file, output_of(command[0], "-", *command[1:], data=data))
 
     def test_paths_in_any_script_under_any_locale(self):
-        with tempfile.TemporaryDirectory() as folder:
-            for name in ("-film.ttml", "Größe 50%.ttml", "עברית.ttml", "100%25#1?.ttml", "caf\udce9.ttml"):
-                with open(f"{folder}/{name}", "wb") as file:
-                    file.write(document(("1s", "2s", "here")))
-                for locale in ("C", "C.UTF-8"):
-                    done = run("list", "--json", "--", name, cwd=folder, env=environment(LC_ALL=locale))
-                    self.assertEqual(done.returncode, DONE, done.stderr)
-                    self.assertIn(b"here", done.stdout)
-                    json.loads(done.stdout.decode())
+        for name in ("-film.ttml", "Größe 50%.ttml", "עברית.ttml", "100%25#1?.ttml", "caf\udce9.ttml"):
+            self.write(name, document(("1s", "2s", "here")))
+            for locale in ("C", "C.UTF-8"):
+                done = run("list", "--json", "--", name, cwd=self.folder, env=environment(LC_ALL=locale))
+                self.assertEqual(json.loads(done.stdout.decode())["items"][0]["text"], "here", done.stderr)
 
     def test_offset_moves_every_time(self):
         data = document(("1s", "2s", "a"), (None, None, "b"))
@@ -224,7 +192,7 @@ class Texts(unittest.TestCase):
             self.assertIn("nothing to come", lines_of("at", "-", "0", data=data)[1])
 
 
-class LibraryLines(unittest.TestCase):
+class LibraryLines(ToolTest):
     def test_verbose_shows_them_on_standard_error_only(self):
         for file, data in ((FORCED, None), ("-", FORCED.read_bytes())):
             quiet = run("list", file, data=data)
@@ -242,8 +210,7 @@ class LibraryLines(unittest.TestCase):
 
     def test_they_bring_no_control_character(self):
         for data in (document(root=' xml:lang="a&#10;document&#9;&#x11B;"'), "<tt>\n</t\u011b\x9b>".encode()):
-            told = run("list", "-", "--verbose", data=data).stderr.decode()
-            self.assertFalse([c for c in told if c != "\n" and (ord(c) < 32 or 127 <= ord(c) < 160)], told)
+            self.assert_no_control_characters(run("list", "-", "--verbose", data=data).stderr.decode())
 
 
 class FailingOutput(unittest.TestCase):
