@@ -1,19 +1,11 @@
 /* Reads items in C99: calls every function of x_ttml_items.h, with right and with wrong arguments. */
+#include "expect.h"
+
 #include <x_ttml_items.h>
 
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
-
-static int failures = 0;
-
-static void expect(int holds, int line, const char *what) {
-    if (!holds) {
-        fprintf(stderr, "%s:%d: %s\n", __FILE__, line, what);
-        ++failures;
-    }
-}
-#define EXPECT(condition) expect((condition), __LINE__, #condition)
 
 static const char text_document[] =
     "<tt xmlns='http://www.w3.org/ns/ttml' xmlns:tts='http://www.w3.org/ns/ttml#styling' xml:lang='de' "

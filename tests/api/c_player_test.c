@@ -1,19 +1,11 @@
 /* A player in C99: calls every function, with a handle and with null. */
+#include "expect.h"
+
 #include <x_ttml.h>
 
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
-
-static int failures = 0;
-
-static void expect(int holds, int line, const char *what) {
-    if (!holds) {
-        fprintf(stderr, "%s:%d: %s\n", __FILE__, line, what);
-        ++failures;
-    }
-}
-#define EXPECT(condition) expect((condition), __LINE__, #condition)
 
 static const char document[] =
     "<tt xmlns='http://www.w3.org/ns/ttml' xmlns:tts='http://www.w3.org/ns/ttml#styling' "

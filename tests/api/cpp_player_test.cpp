@@ -1,19 +1,10 @@
 // A player in C++: reads items, colours and lengths, and catches what the library lets pass.
+#include "expect.h"
+
 #include <x_ttml.h>
 #include <x_ttml_items.h>
 
-#include <cstdio>
 #include <string>
-
-static int failures = 0;
-
-static void expect(bool holds, int line, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "%s:%d: %s\n", __FILE__, line, what);
-        ++failures;
-    }
-}
-#define EXPECT(condition) expect((condition), __LINE__, #condition)
 
 // What programs were built with.
 static void numbers() {
