@@ -1,6 +1,7 @@
 // Any bytes as a document and, from the first PNG signature on, its pictures, drawn into 320 x 180.
 #include "fuzz/fuzzer.h"
 #include "fuzz/invariant.h"
+#include "render/owned_parser.h"
 #include "render/renderer.h"
 
 #include <algorithm>
@@ -43,8 +44,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string input(bytes, bytes + size);
     const std::size_t split = std::min(input.find("\x89PNG"), size);
     const std::string pictures = input.substr(split);
-    x_ttml_handle parser = nullptr;
-    Require(x_ttml_try_create_parser(&parser) == X_TTML_OK, "a parser is made");
+    const OwnedParser owned = MakeParser();
+    x_ttml_handle parser = owned.get();
     x_ttml_set_untrusted(parser, 1);
     x_ttml_try_load_from_data(parser, input.data(), static_cast<std::uint32_t>(split));
     x_ttml_try_set_image_data(parser, pictures.data(), static_cast<std::int32_t>(pictures.size()));
@@ -60,7 +61,5 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
         items.resize(std::min(count, mostItems));
         RequireDrawing(renderer, items);
     }
-    x_ttml_destory_doc(parser);
-    x_ttml_delete_parser(parser);
     return 0;
 }

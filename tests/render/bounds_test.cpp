@@ -51,10 +51,7 @@ TEST(Bounds, WhatIsTooMuchHasARemark) {
     };
     for (const Extreme& each : cases) {
         SCOPED_TRACE(each.description);
-        const Player player(each.document);
-        const std::vector<DisplayItem*> items = player.ItemsAt(1000);
-        Renderer renderer({320, 180}, player.Root());
-        renderer.Show(items.data(), items.size());
+        Renderer renderer = Showing(Player(each.document));
         Screenshot shot({320, 180});
         EXPECT_TRUE(renderer.Draw(shot.View()));
         const std::string remark = renderer.Remarks().empty() ? "" : renderer.Remarks().front().reason;
@@ -72,10 +69,7 @@ TEST(Bounds, WhatIsPaintedSharesARoomOf32Frames) {
             "/><region xml:id='" + id + "' tts:backgroundColor='#0000" + std::to_string(10 + i % 90) + "08'";
         items += "<p begin='0s' end='9s' region='" + id + "'>x</p>";
     }
-    const Player player(Document(regions, "<div>" + items + "</div>"));
-    const std::vector<DisplayItem*> shown = player.ItemsAt(1000);
-    Renderer renderer({320, 180}, player.Root());
-    renderer.Show(shown.data(), shown.size());
+    const Renderer renderer = Showing(Player(Document(regions, "<div>" + items + "</div>")));
     ASSERT_FALSE(renderer.Remarks().empty());
     EXPECT_GE(renderer.Remarks().front().item, 20U);
     EXPECT_LE(renderer.Remarks().front().item, 32U);

@@ -78,10 +78,8 @@ TEST(Picture, ThatCannotBeDecodedIsLeftOutWithAReason) {
         {deep, "a picture of 2048 x 2048 pixels is too large"},
     };
     for (const Fault& each : cases) {
-        const Player player(ImageDocument(""), each.file);
-        const std::vector<DisplayItem*> items = player.ItemsAt(1000);
-        Renderer renderer({320, 180}, player.Root());
-        EXPECT_FALSE(renderer.Show(items.data(), items.size()));
+        const Renderer renderer = Showing(Player(ImageDocument(""), each.file));
+        EXPECT_TRUE(renderer.Bounds().IsEmpty());
         ASSERT_EQ(renderer.Remarks().size(), 1U);
         EXPECT_EQ(renderer.Remarks().front().reason, each.reason);
     }

@@ -2,6 +2,7 @@
 #ifndef XTTML_TESTS_RENDER_SCREENSHOT_H
 #define XTTML_TESTS_RENDER_SCREENSHOT_H
 
+#include "render/owned_parser.h"
 #include "render/renderer.h"
 
 #include <algorithm>
@@ -17,38 +18,32 @@ namespace xttml::render {
 class Player {
 public:
     explicit Player(const std::string& document, const std::string& images = {}) {
+        x_ttml_handle parser = parser_.get();
         x_ttml_drop_lines();
-        x_ttml_try_init();
-        x_ttml_try_create_parser(&handle_);
-        x_ttml_set_untrusted(handle_, 0); // which would bound the documents by itself
-        x_ttml_try_load_from_data(handle_, document.data(), static_cast<std::uint32_t>(document.size()));
-        x_ttml_try_set_image_data(handle_, images.data(), static_cast<std::int32_t>(images.size()));
+        x_ttml_try_init();               // to the end of the process
+        x_ttml_set_untrusted(parser, 0); // which would bound the documents by itself
+        x_ttml_try_load_from_data(parser, document.data(), static_cast<std::uint32_t>(document.size()));
+        x_ttml_try_set_image_data(parser, images.data(), static_cast<std::int32_t>(images.size()));
         if (images.empty())
-            x_ttml_try_generate_text(handle_, 0);
+            x_ttml_try_generate_text(parser, 0);
         else
-            x_ttml_try_generate_images(handle_, 0);
+            x_ttml_try_generate_images(parser, 0);
     }
-    ~Player() {
-        x_ttml_destory_doc(handle_);
-        x_ttml_delete_parser(handle_);
-        x_ttml_uninit_xerces();
-    }
-    Player(const Player&) = delete;
-    Player& operator=(const Player&) = delete;
 
     std::vector<DisplayItem*> ItemsAt(std::int32_t time) const {
-        std::vector<DisplayItem*> items(x_ttml_get_items_on_screen(handle_, nullptr, 0, time));
-        x_ttml_get_items_on_screen(handle_, items.data(), static_cast<std::uint32_t>(items.size()), time);
+        std::vector<DisplayItem*> items(x_ttml_get_items_on_screen(parser_.get(), nullptr, 0, time));
+        x_ttml_get_items_on_screen(parser_.get(), items.data(), static_cast<std::uint32_t>(items.size()),
+                                   time);
         return items;
     }
     Size Root() const {
         Size root;
-        x_ttml_get_tt_extent(handle_, &root.width, &root.height);
+        x_ttml_get_tt_extent(parser_.get(), &root.width, &root.height);
         return root;
     }
 
 private:
-    x_ttml_handle handle_ = nullptr;
+    const OwnedParser parser_ = MakeParser();
 };
 
 /// A pixel as it is in a frame: multiplied by alpha.
@@ -127,13 +122,18 @@ inline std::string Paragraph(const std::string& regionAttributes, const std::str
 
 inline constexpr Box region = {40, 20, 280, 160};
 
-/// What a document shows at 1 s, drawn as large as it is unless told otherwise.
-inline Screenshot Shoot(const Player& player, Size target = {320, 180}) {
+/// A renderer that shows what there is at 1 s.
+inline Renderer Showing(const Player& player, Size target = {320, 180}) {
     Renderer renderer(target, player.Root());
     const std::vector<DisplayItem*> items = player.ItemsAt(1000);
     renderer.Show(items.data(), items.size());
+    return renderer;
+}
+
+/// What a document shows at 1 s, drawn as large as it is unless told otherwise.
+inline Screenshot Shoot(const Player& player, Size target = {320, 180}) {
     Screenshot screenshot(target);
-    renderer.Draw(screenshot.View());
+    Showing(player, target).Draw(screenshot.View());
     return screenshot;
 }
 

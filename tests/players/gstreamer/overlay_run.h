@@ -2,6 +2,7 @@
 #ifndef XTTML_TESTS_PLAYERS_GSTREAMER_OVERLAY_RUN_H
 #define XTTML_TESTS_PLAYERS_GSTREAMER_OVERLAY_RUN_H
 
+#include "render/owned_parser.h"
 #include "render/renderer.h"
 
 #include <algorithm>
@@ -40,8 +41,8 @@ inline std::string Document(std::initializer_list<const char*> paragraphs,
 
 /// What the drawing makes of a document over such a frame.
 inline Pixels Drawn(const std::string& document, std::int32_t time, render::Size size = {width, height}) {
-    x_ttml_handle parser = nullptr;
-    x_ttml_try_create_parser(&parser);
+    const render::OwnedParser owned = render::MakeParser();
+    x_ttml_handle parser = owned.get();
     x_ttml_try_load_from_data(parser, document.data(), static_cast<std::uint32_t>(document.size()));
     x_ttml_try_generate_text(parser, 0);
     DisplayItem* items[16];
@@ -53,8 +54,6 @@ inline Pixels Drawn(const std::string& document, std::int32_t time, render::Size
     Pixels pixels(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height), ground);
     renderer.Draw({reinterpret_cast<std::uint8_t*>(pixels.data()), size.width, size.height, 4 * size.width},
                   render::Ground::KEPT);
-    x_ttml_destory_doc(parser);
-    x_ttml_delete_parser(parser);
     return pixels;
 }
 
