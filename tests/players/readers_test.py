@@ -5,14 +5,12 @@ import pathlib
 import re
 import subprocess
 import sys
-import tempfile
-import unittest
 
 import srt
 import webvtt
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tools"))
-from tool_runs import EXAMPLES, document, json_of, main, run  # noqa: E402
+from tool_runs import EXAMPLES, ToolTest, document, json_of, main, run  # noqa: E402
 
 DEMUXERS = {"srt": "srt", "vtt": "webvtt", "ass": "ass"}
 WORD_JOINER = "\u2060"
@@ -62,13 +60,9 @@ def ffmpeg(*arguments):
     return done.stdout
 
 
-class Readers(unittest.TestCase):
-    def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
-
+class Readers(ToolTest):
     def converted(self, data, target):
-        path = pathlib.Path(self.folder.name) / f"film.{target}"
+        path = self.folder / f"film.{target}"
         self.assertEqual(run("convert", "-", "-o", path, "--force", data=data).returncode, 0)
         return path
 

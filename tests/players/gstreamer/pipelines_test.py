@@ -5,11 +5,9 @@ import pathlib
 import shlex
 import subprocess
 import sys
-import tempfile
-import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
-from tool_runs import EXAMPLES, environment, main, run  # noqa: E402
+from tool_runs import EXAMPLES, ToolTest, environment, main, run  # noqa: E402
 
 TEST_VIDEO = "videotestsrc num-buffers=%d ! video/x-raw,format=RGBA,width=320,height=180,framerate=1/1"
 TO_PICTURES = "videoconvert ! video/x-raw,format=RGB ! pngenc ! multifilesink location=%s/%%02d.png"
@@ -18,7 +16,7 @@ BOTH_STREAMS = ("filesrc location=%s ! decodebin name=file caps=video/x-raw;appl
                 "file. ! application/ttml+xml ! queue ! overlay.text_sink")
 PLAYBIN = 'playbin uri=file://%s video-sink="%s"'
 ROUNDING = 3  # between drawing into a frame and blending a drawing in
-SUBTITLES = "1\n00:00:01,000 --> 00:00:02,000\nOne\n\n2\n00:00:03,000 --> 00:00:04,000\nThree\n\n"
+SUBTITLES = b"1\n00:00:01,000 --> 00:00:02,000\nOne\n\n2\n00:00:03,000 --> 00:00:04,000\nThree\n\n"
 
 
 def command(*words, **variables):
@@ -47,12 +45,7 @@ def difference(one, other):
     return max(abs(a - b) for a, b in set(zip(one, other, strict=True)))
 
 
-class Pipelines(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = pathlib.Path(folder.name)
-
+class Pipelines(ToolTest):
     def play(self, name, pipeline):
         """A folder with the pictures of a pipeline's frames; nothing is complained about."""
         folder = self.folder / name
@@ -62,9 +55,9 @@ class Pipelines(unittest.TestCase):
 
     def mux(self, *more):
         file = self.folder / "film.mp4"
-        (self.folder / "film.srt").write_text(SUBTITLES)
+        subtitles = self.write("film.srt", SUBTITLES)
         command("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "color=c=navy:d=6:s=320x180:r=5", "-i",
-                str(self.folder / "film.srt"), "-c:v", "libvpx-vp9", "-c:s", "ttml", *more, str(file))
+                str(subtitles), "-c:v", "libvpx-vp9", "-c:s", "ttml", *more, str(file))
         return file
 
     def test_inspect_knows_it(self):
