@@ -18,7 +18,6 @@
 
 #include <string>
 #include <typeinfo>
-#include <utility>
 #include <vector>
 
 /// A document and the parser that owns it. The XML library must be initialised.
@@ -45,7 +44,7 @@ public:
     /// Whether another document is the same tree, node for node, and says the same in its XML declaration.
     bool IsSame(const xercesc::DOMDocument& other) {
         const xercesc::DOMDocument& own = *parser.getDocument();
-        return IsSameTree(own, other) && own.isEqualNode(&other) &&
+        return Described(own) == Described(other) && own.isEqualNode(&other) &&
                xercesc::XMLString::equals(own.getXmlVersion(), other.getXmlVersion()) &&
                xercesc::XMLString::equals(own.getXmlEncoding(), other.getXmlEncoding()) &&
                own.getXmlStandalone() == other.getXmlStandalone();
@@ -53,77 +52,67 @@ public:
 
     /// Whether a copy of another document is the same as a copy of this one.
     bool HasSameCopy(const xercesc::DOMDocument& other) {
-        xercesc::DOMNode* const ownCopy = parser.getDocument()->cloneNode(true);
-        xercesc::DOMNode* const otherCopy = other.cloneNode(true);
-        const bool isSame = IsSameTree(*ownCopy, *otherCopy);
-        ownCopy->release();
-        otherCopy->release();
-        return isSame;
+        return DescribedCopy(*parser.getDocument()) == DescribedCopy(other);
     }
 
 private:
     using Node = const xercesc::DOMNode;
 
-    static bool IsSameTree(Node& own, Node& other) {
-        std::vector<std::pair<Node*, Node*>> open = {{&own, &other}};
+    static std::string DescribedCopy(Node& node) {
+        xercesc::DOMNode* const copy = node.cloneNode(true);
+        const std::string description = Described(*copy);
+        copy->release();
+        return description;
+    }
+
+    /// A node and what is inside it, each with its class, what it says and how many it holds.
+    static std::string Described(Node& root) {
+        std::string description;
+        std::vector<Node*> open = {&root};
         while (!open.empty()) {
-            const auto [left, right] = open.back();
+            Node& node = *open.back();
             open.pop_back();
-            if (!IsSameNode(*left, *right) || !OpenChildren(*left, *right, open) ||
-                !OpenAttributes(*left, *right, open))
-                return false;
+            description += typeid(node).name();
+            for (const XMLCh* text : {node.getNodeName(), node.getNodeValue(), node.getNamespaceURI(),
+                                      node.getPrefix(), node.getLocalName()}) {
+                description.append(reinterpret_cast<const char*>(text),
+                                   sizeof(XMLCh) * xercesc::XMLString::stringLen(text));
+                description += '\n';
+            }
+            if (const auto* attribute = dynamic_cast<const xercesc::DOMAttr*>(&node))
+                description += std::to_string(attribute->getSpecified()) + std::to_string(attribute->isId());
+            description += std::to_string(OpenChildren(node, open)) + ' ';
+            description += std::to_string(OpenAttributes(node, open)) + ' ';
         }
-        return true;
+        return description;
     }
 
-    /// Whether two nodes are alike but for what is inside them.
-    static bool IsSameNode(Node& own, Node& other) {
-        const auto has = [&](const XMLCh* (Node::*text)() const) {
-            return xercesc::XMLString::equals((own.*text)(), (other.*text)());
-        };
-        const auto* attribute = dynamic_cast<const xercesc::DOMAttr*>(&own);
-        return typeid(own) == typeid(other) && has(&Node::getNodeName) && has(&Node::getNodeValue) &&
-               has(&Node::getNamespaceURI) && has(&Node::getPrefix) && has(&Node::getLocalName) &&
-               (!attribute || IsSameAttribute(*attribute, static_cast<const xercesc::DOMAttr&>(other)));
-    }
-
-    static bool IsSameAttribute(const xercesc::DOMAttr& own, const xercesc::DOMAttr& other) {
-        return own.getSpecified() == other.getSpecified() && own.isId() == other.isId();
-    }
-
-    /// Opens the children; false when their number differs or when they do not know their parent, their
-    /// document and each other.
-    static bool OpenChildren(Node& own, Node& other, std::vector<std::pair<Node*, Node*>>& open) {
+    /// How many there are; -1 when they do not know their parent, their document and each other.
+    static int OpenChildren(Node& node, std::vector<Node*>& open) {
+        int count = 0;
         Node* last = nullptr;
-        Node* ownChild = own.getFirstChild();
-        for (Node* child = other.getFirstChild(); child; child = child->getNextSibling()) {
-            if (!ownChild || child->getParentNode() != &other || child->getPreviousSibling() != last ||
-                child->getOwnerDocument() != DocumentOf(other))
-                return false;
-            open.emplace_back(ownChild, child);
-            ownChild = ownChild->getNextSibling();
+        Node* const document = node.getOwnerDocument() ? node.getOwnerDocument() : &node;
+        for (Node* child = node.getFirstChild(); child; child = child->getNextSibling()) {
+            if (child->getParentNode() != &node || child->getPreviousSibling() != last ||
+                child->getOwnerDocument() != document)
+                return -1;
+            open.push_back(child);
             last = child;
+            ++count;
         }
-        return !ownChild && other.getLastChild() == last;
+        return node.getLastChild() == last ? count : -1;
     }
 
-    static Node* DocumentOf(Node& node) {
-        return node.getNodeType() == Node::DOCUMENT_NODE ? &node : node.getOwnerDocument();
-    }
-
-    /// Opens the attributes, which have to stand in the same order.
-    static bool OpenAttributes(Node& own, Node& other, std::vector<std::pair<Node*, Node*>>& open) {
-        const xercesc::DOMNamedNodeMap* const ownMap = own.getAttributes();
-        const xercesc::DOMNamedNodeMap* const map = other.getAttributes();
-        if (!map || !ownMap)
-            return map == ownMap;
-        for (XMLSize_t i = 0; i < map->getLength(); ++i) {
-            const auto& attribute = static_cast<const xercesc::DOMAttr&>(*map->item(i));
-            if (i >= ownMap->getLength() || attribute.getOwnerElement() != &other)
-                return false;
-            open.emplace_back(ownMap->item(i), &attribute);
+    /// How many there are; -1 when they do not know their element.
+    static int OpenAttributes(Node& node, std::vector<Node*>& open) {
+        const xercesc::DOMNamedNodeMap* const map = node.getAttributes();
+        const XMLSize_t count = map ? map->getLength() : 0;
+        for (XMLSize_t i = 0; i < count; ++i) {
+            if (static_cast<const xercesc::DOMAttr*>(map->item(i))->getOwnerElement() != &node)
+                return -1;
+            open.push_back(map->item(i));
         }
-        return map->getLength() == ownMap->getLength();
+        return static_cast<int>(count);
     }
 
     xercesc::XercesDOMParser parser;
