@@ -1,6 +1,7 @@
 """The floors of the house: includes run down only, what stands above the library includes what is installed, no two
 files include each other, guards are named alike."""
 
+import graphlib
 import pathlib
 import re
 import unittest
@@ -51,21 +52,10 @@ def interface_faults(files):
 
 def cycle_faults(files):
     """Files that include each other, directly or through others."""
-    done = set()
-
-    def visit(file, path):
-        if file in path:
-            yield "cycle: " + " -> ".join(path[path.index(file):] + [file])
-            return
-        if file in done:
-            return
-        for _, name in files[file]:
-            if name in files:
-                yield from visit(name, path + [file])
-        done.add(file)
-
-    for file in files:
-        yield from visit(file, [])
+    try:
+        graphlib.TopologicalSorter({file: [name for _, name in files[file] if name in files] for file in files}).prepare()
+    except graphlib.CycleError as error:
+        yield "cycle: " + " <- ".join(error.args[1])
 
 
 def xml_library_faults(files):

@@ -7,8 +7,11 @@ std::string strPng(std::size_t uSize) {
     return "\x89PNG" + std::string(uSize - 4, 'x');
 }
 
-std::string strReference(const std::string& strIndex) {
-    return "smpte:backgroundImage='urn:dece:container:subtitleimageindex:" + strIndex + "'";
+/// A division with an image: its index, its times, its other attributes and what is inside it.
+std::string strDivision(const std::string& strIndex, const std::string& strTimes,
+                        const std::string& strAttributes = "", const std::string& strContent = "") {
+    return "<div smpte:backgroundImage='urn:dece:container:subtitleimageindex:" + strIndex + "' " + strTimes +
+           " " + strAttributes + ">" + strContent + "</div>";
 }
 
 class ImageSequence : public LoadedParser {
@@ -118,17 +121,13 @@ TEST_F(ImageSequence, ReadsTheIndexOfAReference) {
 
 TEST_F(ImageSequence, MakesAnItemForADivisionOrItsChildren) {
     vHandOver(strPng(10) + strPng(20));
-    const std::string strTimes = " begin='1s' end='2s' ";
-    vGenerate("<div" + strTimes + strReference("1.png") + " cff:forcedDisplayMode='true'><div" + strTimes +
-                  strReference("2.png") +
-                  "/></div>"
-                  "<div region='r' cff:forcedDisplayMode='true'><div" +
-                  strTimes + strReference("2.png") + " cff:forcedDisplayMode='true'/><div" + strTimes +
-                  "/><div" + strTimes + strReference("3.png") + "/><div><div" + strTimes +
-                  strReference("1.png") +
-                  "/></div></div>"
-                  "<div" +
-                  strTimes + strReference("31.png") + "/><div" + strTimes + strReference("x.png") + "/>",
+    const std::string strTimes = "begin='1s' end='2s'";
+    const std::string strForced = "cff:forcedDisplayMode='true'";
+    const std::string strSecond = strDivision("2.png", strTimes);
+    vGenerate(strDivision("1.png", strTimes, strForced, strSecond) + "<div region='r' " + strForced + ">" +
+                  strDivision("2.png", strTimes, strForced) + "<div " + strTimes + "/>" +
+                  strDivision("3.png", strTimes) + "<div>" + strDivision("1.png", strTimes) + "</div></div>" +
+                  strDivision("31.png", strTimes) + strDivision("x.png", strTimes),
               "", "", 500);
     EXPECT_EQ(strItems(), "[1500,2500] w=1024 h=768 #0+10\n"
                           "[1500,2500] forced w=1024 h=768 #10+20\n"
@@ -155,7 +154,7 @@ TEST_F(ImageSequence, PlacesItems) {
     vHandOver(strPng(10));
     for (const auto& test : cases) {
         SCOPED_TRACE(test.attributes);
-        vGenerate("<div begin='0s' end='1s' " + strReference("1.png") + " " + test.attributes + "/>", strHead,
+        vGenerate(strDivision("1.png", "begin='0s' end='1s'", test.attributes), strHead,
                   "tts:extent='640px 480px'");
         EXPECT_EQ(Describe(rLastItem()), std::string("[0,1000] ") + test.expected);
         EXPECT_EQ(rLastItem().pRegionAttrib, nullptr);
@@ -165,7 +164,7 @@ TEST_F(ImageSequence, PlacesItems) {
 TEST_F(ImageSequence, NeedsABodyADivisionAndABlock) {
     vGenerate("", "", "tts:extent='5px 5px'");
     EXPECT_EQ(strOutput, "<div> element not found!\n");
-    vGenerate("<div begin='0s' end='1s' " + strReference("1.png") + "/>", "", "tts:extent='5px 5px'");
+    vGenerate(strDivision("1.png", "begin='0s' end='1s'"), "", "tts:extent='5px 5px'");
     EXPECT_EQ(strOutput, "");
     EXPECT_EQ(parser.iGetExtentWidth(), 0);
     EXPECT_EQ(parser.iGetDocumentEndTime(), -1);
@@ -177,10 +176,10 @@ TEST_F(ImageSequence, NeedsABodyADivisionAndABlock) {
 
 TEST_F(ImageSequence, RaisesWhereATimeIsMissing) {
     vHandOver(strPng(10));
-    const std::string strGood = "<div begin='0s' end='1s' " + strReference("1.png") + "/>";
+    const std::string strGood = strDivision("1.png", "begin='0s' end='1s'");
     for (const char* times : {"begin='1s'", "end='1s'", ""}) {
         parser.vClearDisplaySequence();
-        EXPECT_THROW(vGenerate(strGood + "<div " + times + " " + strReference("1.png") + "/>" + strGood),
+        EXPECT_THROW(vGenerate(strGood + strDivision("1.png", times) + strGood),
                      tessera::InvalidOperationException);
         EXPECT_EQ(parser.vecGetDisplaySequence().size(), 1U) << times;
     }
@@ -189,7 +188,7 @@ TEST_F(ImageSequence, RaisesWhereATimeIsMissing) {
 
 // Nothing has put them into the index yet.
 TEST_F(ImageSequence, FindsImagesThatWereAppendedOneByOne) {
-    ASSERT_NO_FATAL_FAILURE(vGenerate("<div begin='1s' end='3s' " + strReference("1.png") + "/>"));
+    ASSERT_NO_FATAL_FAILURE(vGenerate(strDivision("1.png", "begin='1s' end='3s'")));
     vHandOver(strPng(10));
     parser.vGeneratePNGBufferInfo();
     for (const int iOffset : {1000, INT32_MAX - 3000, -5000})
@@ -207,7 +206,7 @@ TEST_F(ImageSequence, FindsImagesThatWereAppendedOneByOne) {
 }
 
 TEST_F(ImageSequence, AnAppendedImageThatBeginsRightNowIsNotToCome) {
-    ASSERT_NO_FATAL_FAILURE(vGenerate("<div begin='3s' end='1s' " + strReference("1.png") + "/>"));
+    ASSERT_NO_FATAL_FAILURE(vGenerate(strDivision("1.png", "begin='3s' end='1s'")));
     vHandOver(strPng(10));
     parser.vGeneratePNGBufferInfo();
     for (const int iOffset : {0, 1000})
@@ -216,15 +215,12 @@ TEST_F(ImageSequence, AnAppendedImageThatBeginsRightNowIsNotToCome) {
 }
 
 TEST_F(ImageSequence, KeepsABlockWhileItemsPointIntoIt) {
-    const auto strDivision = [](const char* index) {
-        return "<div begin='0s' end='1s' " + strReference(index) + "/>";
-    };
     vHandOver(strPng(50) + strPng(1000));
-    vGenerate(strDivision("2.png")); // and none of the first image
+    vGenerate(strDivision("2.png", "begin='0s' end='1s'")); // and none of the first image
     const auto& first = dynamic_cast<const ImageItem&>(rItem(0));
     for (int i = 0; i < 10; ++i)
         vHandOver(strPng(2000));
-    vGenerate(strDivision("1.png"));
+    vGenerate(strDivision("1.png", "begin='0s' end='1s'"));
     for (int i = 0; i < 10; ++i)
         vHandOver(strPng(3000));
     EXPECT_EQ(std::string(first.pImageData, first.pImageData + first.iImageDataSize), strPng(1000));
@@ -235,15 +231,14 @@ TEST_F(ImageSequence, KeepsABlockWhileItemsPointIntoIt) {
 TEST_F(ImageSequence, CountsTheItemsOfEarlierGenerations) {
     vGenerateText("<p begin='0s' end='9s'/>");
     vHandOver(strPng(10));
-    vGenerate("<div begin='1s' end='2s' " + strReference("1.png") + "/>");
+    vGenerate(strDivision("1.png", "begin='1s' end='2s'"));
     EXPECT_EQ(strOutput, "document start time 0\ndocument end time 9000\n");
 }
 
 TEST_F(ImageSequence, IsPassedOverWhereTextsAreCombined) {
     vHandOver(strPng(10));
-    const std::string strDivision = "<div begin='1s' end='2s' " + strReference("1.png") + ">";
     vGenerateText("<p begin='1s' end='2s'><br/></p>");
-    vGenerate(strDivision + "<p begin='1s' end='2s'><br/></p></div>");
+    vGenerate(strDivision("1.png", "begin='1s' end='2s'", "", "<p begin='1s' end='2s'><br/></p>"));
     CapturedOutput([&] { parser.vGenerateTextDisplaySequence(0); });
     EXPECT_EQ(parser.rGetDisplayItemByTime(1500), &rItem(0));
     EXPECT_EQ(parser.rCombineSameTimeItem(), &rItem(0));

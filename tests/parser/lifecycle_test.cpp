@@ -55,11 +55,9 @@ TEST_F(Lifecycle, AFailedLoadKeepsWhatWasHeld) {
                  tessera::DataSourceUnavailableException);
     xercesc::XMLPlatformUtils::Terminate();
     EXPECT_EQ(parser.strGetDocLanguage(), "fr");
-    bool fgLoaded = true;
-    const std::string strLine = CapturedOutput([&] { fgLoaded = parser.fgLoadDocument("<tt>", 4U); });
-    EXPECT_FALSE(fgLoaded);
-    EXPECT_EQ(strLine.rfind("Xerces SAX error while loading: ", 0), 0U) << strLine;
-    EXPECT_EQ(strLine.find('\n'), strLine.size() - 1);
+    EXPECT_FALSE(fgLoadBeside("<tt>"));
+    EXPECT_EQ(strOutput.rfind("Xerces SAX error while loading: ", 0), 0U) << strOutput;
+    EXPECT_EQ(strOutput.find('\n'), strOutput.size() - 1);
     EXPECT_EQ(parser.strGetDocLanguage(), "fr");
 }
 
@@ -76,20 +74,11 @@ TEST_F(Lifecycle, LoadsFromMemory) {
         {"<div/>", false, "load from file failed\n"},
     };
     for (const auto& test : cases) {
-        bool fgLoaded = !test.fgLoaded;
-        EXPECT_EQ(CapturedOutput([&] {
-                      fgLoaded =
-                          parser.fgLoadDocument(test.bytes.data(), static_cast<unsigned>(test.bytes.size()));
-                  }),
-                  test.output);
-        EXPECT_EQ(fgLoaded, test.fgLoaded);
-        CapturedOutput([&] { parser.vCloseDocument(); });
+        EXPECT_EQ(fgLoad(test.bytes), test.fgLoaded);
+        EXPECT_EQ(strOutput, test.output);
     }
-    for (const void* pData : {static_cast<const void*>(""), static_cast<const void*>(nullptr)}) {
-        bool fgLoaded = true;
-        CapturedOutput([&] { fgLoaded = parser.fgLoadDocument(pData, pData ? 0U : 100U); });
-        EXPECT_FALSE(fgLoaded);
-    }
+    EXPECT_FALSE(fgLoad(""));
+    CapturedOutput([&] { EXPECT_FALSE(parser.fgLoadDocument(nullptr, 100U)); });
 }
 
 TEST_F(Lifecycle, ReadsTheLanguage) {
@@ -169,9 +158,7 @@ TEST_F(Lifecycle, FlushesEveryLineButTwo) {
 
 TEST(LifecycleWithoutXmlLibrary, ALoadFromMemoryFails) {
     TtmlParser parser;
-    bool fgLoaded = true;
-    CapturedOutput([&] { fgLoaded = parser.fgLoadDocument("<tt/>", 5U); });
-    EXPECT_FALSE(fgLoaded);
+    CapturedOutput([&] { EXPECT_FALSE(parser.fgLoadDocument("<tt/>", 5U)); });
 }
 
 } // namespace

@@ -56,13 +56,16 @@ protected:
         CapturedOutput([&] { parser.vCloseDocument(); });
     }
 
-    bool fgLoad(const std::string& strText) {
+    /// Whether a text is loaded; nothing is closed before.
+    bool fgLoadBeside(std::string_view text) {
         bool fgLoaded = false;
-        CapturedOutput([&] {
-            parser.vCloseDocument();
-            fgLoaded = parser.fgLoadDocument(strText.data(), static_cast<unsigned int>(strText.size()));
-        });
+        strOutput = CapturedOutput(
+            [&] { fgLoaded = parser.fgLoadDocument(text.data(), static_cast<unsigned int>(text.size())); });
         return fgLoaded;
+    }
+    bool fgLoad(std::string_view text) {
+        CapturedOutput([&] { parser.vCloseDocument(); });
+        return fgLoadBeside(text);
     }
     /// Loads a body of one division with these paragraphs and generates it.
     void vGenerateText(const std::string& strParagraphs, const std::string& strHead = "",
@@ -76,7 +79,7 @@ protected:
 
     XercesSession session;
     TtmlParser parser;
-    std::string strOutput; // of the last generation
+    std::string strOutput; // of the last load or generation
 };
 
 #endif

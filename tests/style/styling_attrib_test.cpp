@@ -1,10 +1,13 @@
 #include "style/styling_attrib.h"
 
 #include "style/keywords.h"
+#include "tests/support/outcomes.h"
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -43,35 +46,22 @@ TEST(StylingAttrib, AMoveIsACopy) {
 }
 
 TEST(StylingAttrib, ConvertsKeywords) {
-    struct {
-        const char* text;
+    struct Case {
+        std::string text;
         int iDisplayAlign, iTextAlign, iTextDecoration, iFontStyle, iFontWeight, iVisibility;
-    } const cases[] = {
-        {"before", 0, 3, 0, 0, 0, 0},
-        {"center", 1, 1, 0, 0, 0, 0},
-        {"after", 2, 3, 0, 0, 0, 0},
-        {"CENTER", 0, 3, 0, 0, 0, 0},
-        {"left", 0, 0, 0, 0, 0, 0},
-        {"right", 0, 2, 0, 0, 0, 0},
-        {"start", 0, 3, 0, 0, 0, 0},
-        {"end", 0, 4, 0, 0, 0, 0},
-        {"underline", 0, 3, 1, 0, 0, 0},
-        {"noUnderline", 0, 3, 2, 0, 0, 0},
-        {"lineThrough", 0, 3, 3, 0, 0, 0},
-        {"noLineThrough", 0, 3, 4, 0, 0, 0},
-        {"overline", 0, 3, 5, 0, 0, 0},
-        {"noOverline", 0, 3, 6, 0, 0, 0},
-        {"underline overline", 0, 3, 0, 0, 0, 0},
-        {"italic", 0, 3, 0, 1, 0, 0},
-        {"oblique", 0, 3, 0, 0, 0, 0},
-        {"bold", 0, 3, 0, 0, 1, 0},
-        {"700", 0, 3, 0, 0, 0, 0},
-        {"hidden", 0, 3, 0, 0, 0, 1},
-        {"visible", 0, 3, 0, 0, 0, 0},
-        {"", 0, 3, 0, 0, 0, 0},
-        {"bold ", 0, 3, 0, 0, 0, 0},
     };
-    for (const auto& test : cases) {
+    std::vector<Case> cases = {
+        {"center", 1, 1, 0, 0, 0, 0},        {"after", 2, 3, 0, 0, 0, 0},
+        {"left", 0, 0, 0, 0, 0, 0},          {"right", 0, 2, 0, 0, 0, 0},
+        {"end", 0, 4, 0, 0, 0, 0},           {"underline", 0, 3, 1, 0, 0, 0},
+        {"noUnderline", 0, 3, 2, 0, 0, 0},   {"lineThrough", 0, 3, 3, 0, 0, 0},
+        {"noLineThrough", 0, 3, 4, 0, 0, 0}, {"overline", 0, 3, 5, 0, 0, 0},
+        {"noOverline", 0, 3, 6, 0, 0, 0},    {"italic", 0, 3, 0, 1, 0, 0},
+        {"bold", 0, 3, 0, 0, 1, 0},          {"hidden", 0, 3, 0, 0, 0, 1},
+    };
+    for (const std::string& text : Split("before|CENTER|start|underline overline|oblique|700|visible||bold "))
+        cases.push_back({text, 0, 3, 0, 0, 0, 0});
+    for (const Case& test : cases) {
         SCOPED_TRACE(test.text);
         EXPECT_EQ(eDisplayAlignFromKeyword(test.text), test.iDisplayAlign);
         EXPECT_EQ(eTextAlignFromKeyword(test.text), test.iTextAlign);

@@ -60,11 +60,6 @@ class Pipelines(ToolTest):
                 str(subtitles), "-c:v", "libvpx-vp9", "-c:s", "ttml", *more, str(file))
         return file
 
-    def test_inspect_knows_it(self):
-        text = subprocess.run(["gst-inspect-1.0", "xttmloverlay"], capture_output=True, check=True, text=True).stdout
-        for word in ("location", "images", "offset", "forced-only", "trusted", "time-base", "application/ttml+xml"):
-            self.assertIn(word, text)
-
     def test_frames_are_what_render_draws(self):
         bare = self.play("bare", TEST_VIDEO % 12 + " ! %s")
         for name, images in (("lighthouse.en.ttml", ()), ("market.he.ttml", ()),
