@@ -5,9 +5,10 @@ Arguments: the library, nm, c++filt, the installed headers as the build lists th
 
 import pathlib
 import re
-import subprocess
 import sys
 import unittest
+
+from commands import run
 
 LIBRARY, NM, FILTER, *HEADERS = sys.argv[1:]
 
@@ -66,10 +67,9 @@ class Declarations:
 
 def read_symbols():
     """The demangled names of the defined dynamic symbols, without the version node's own."""
-    listed = subprocess.run([NM, "-D", "--defined-only", LIBRARY], stdout=subprocess.PIPE, text=True, check=True).stdout
+    listed = run(NM, "-D", "--defined-only", LIBRARY)
     mangled = re.findall(r"^[0-9a-f]+ [^A] ([^@\n]+)", listed, re.MULTILINE)
-    shown = subprocess.run([FILTER], input="\n".join(mangled), stdout=subprocess.PIPE, text=True, check=True).stdout
-    return sorted(set(shown.splitlines()))
+    return sorted(set(run(FILTER, input="\n".join(mangled)).splitlines()))
 
 
 def name_without_arguments(symbol):

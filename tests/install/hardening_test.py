@@ -9,28 +9,26 @@ import subprocess
 import sys
 import unittest
 
+from commands import run
+
 LIBRARY, TOOL, READELF, *OVERLONG_COPY = sys.argv[1:]
 
 
-def readelf(*arguments):
-    return subprocess.run([READELF, "-W", *arguments], stdout=subprocess.PIPE, text=True, check=True).stdout
-
-
 def imported(file):
-    return set(re.findall(r"UND (\w+)", readelf("--dyn-syms", file)))
+    return set(re.findall(r"UND (\w+)", run(READELF, "-W", "--dyn-syms", file)))
 
 
 class Hardening(unittest.TestCase):
     def test_the_files(self):
         for file in (LIBRARY, TOOL):
             with self.subTest(file):
-                segments = readelf("--segments", file)
+                segments = run(READELF, "-W", "--segments", file)
                 self.assertIn("GNU_RELRO", segments)
-                self.assertRegex(readelf("--dynamic", file), r"BIND_NOW|FLAGS_1.*\bNOW\b")
+                self.assertRegex(run(READELF, "-W", "--dynamic", file), r"BIND_NOW|FLAGS_1.*\bNOW\b")
                 self.assertRegex(segments, r"GNU_STACK .* RW  ")
                 self.assertNotIn(" RWE ", segments)
                 self.assertIn("__stack_chk_fail", imported(file))
-        self.assertIn("DYN", readelf("--file-header", TOOL), "loaded anywhere")
+        self.assertIn("DYN", run(READELF, "--file-header", TOOL), "loaded anywhere")
 
     def test_the_c_library_is_fortified(self):
         # asked of a program of its own: what the library hands to the C library depends on the compiler

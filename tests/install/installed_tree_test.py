@@ -12,6 +12,8 @@ import sys
 import tempfile
 import unittest
 
+from commands import run
+
 HERE = pathlib.Path(__file__).resolve().parent
 EXAMPLES = HERE.parent.parent / "examples"
 C_PLAYER = HERE.parent / "api" / "c_player_test.c"
@@ -36,16 +38,6 @@ def read_arguments():
         parser.add_argument(f"--{name}", required=True)
     parser.add_argument("--prefix", action="append", default=[], help="where CMake found a library aside")
     return parser.parse_args()
-
-
-def run(*command, **options):
-    """What a command writes to standard output; its standard error when it fails."""
-    done = subprocess.run(
-        list(map(str, command)), stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False, **options
-    )
-    if done.returncode != 0:
-        raise AssertionError(f"{' '.join(map(str, command))}: {done.returncode}\n{done.stdout}{done.stderr}")
-    return done.stdout
 
 
 def facts(item):
@@ -95,8 +87,11 @@ class InstalledTree(unittest.TestCase):
             self.assertIn(shown, done.stdout)
             self.assertEqual((done.stderr, done.returncode), (complaint, 1 if complaint else 0))
 
-    def check_document_tool(self, program):
-        written = run(program)
+    def check_clients(self, folder):
+        run(folder / "c_player_test")
+        run(folder / "cpp_player_test")
+        self.check_example(folder / "player")
+        written = run(folder / "document_tool")
         self.assertIn(WRITTEN, written)
         self.assertIn('<p begin="5s" end="2s">text</p>', written)
 
@@ -178,10 +173,7 @@ class InstalledTree(unittest.TestCase):
         ]
         for source, compiler, libraries in compilers:
             run(*compiler, *WARNINGS, source, *libraries, "-o", self.work / source.stem)
-        run(self.work / C_PLAYER.stem)
-        run(self.work / CPP_PLAYER.stem)
-        self.check_example(self.work / "player")
-        self.check_document_tool(self.work / "document_tool")
+        self.check_clients(self.work)
 
     def test_clients_by_find_package(self):
         build = self.work / "clients"
@@ -192,10 +184,7 @@ class InstalledTree(unittest.TestCase):
         )
         self.assertIn(f"xttml_VERSION={self.version_in_header()}", found)
         run(GIVEN.cmake, "--build", build, "--parallel", str(os.cpu_count()))
-        run(build / "c_player")
-        run(build / "cpp_player")
-        self.check_example(build / "player")
-        self.check_document_tool(build / "document_tool")
+        self.check_clients(build)
 
     def test_items_in_python(self):
         for document in sorted(EXAMPLES.glob("*.ttml")):

@@ -8,10 +8,11 @@ import os
 import pathlib
 import shlex
 import shutil
-import subprocess
 import sys
 import tempfile
 import unittest
+
+from commands import run
 
 CMAKE, SOURCE, CC, CXX = sys.argv[1:]
 TESTS = pathlib.Path(SOURCE) / "tests"
@@ -35,16 +36,6 @@ foreach(name COMPILE_OPTIONS LINK_OPTIONS INCLUDE_DIRECTORIES)
 endforeach()
 message(STATUS "changed: [${changed}]")
 """
-
-
-def run(*command, **environment):
-    done = subprocess.run(
-        list(map(str, command)), env={**os.environ, **environment}, text=True, check=False,
-        stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-    )
-    if done.returncode != 0:
-        raise AssertionError(f"{shlex.join(map(str, command))}: {done.returncode}\n{done.stdout}")
-    return done.stdout
 
 
 class Subproject(unittest.TestCase):
@@ -86,14 +77,15 @@ class Subproject(unittest.TestCase):
         clients, c_player = self.host / "clients", TESTS / "api" / "c_player_test.c"
         run(CMAKE, "-S", TESTS / "install" / "clients", "-B", clients, f"-DCMAKE_PREFIX_PATH={self.prefix}",
             f"-DCMAKE_C_COMPILER={CC}", f"-DCMAKE_CXX_COMPILER={CXX}")
-        run(CMAKE, "--build", clients, "--target", "c_player")
-        run(clients / "c_player")
+        run(CMAKE, "--build", clients, "--target", "c_player_test")
+        run(clients / "c_player_test")
 
         if not shutil.which("pkg-config"):
             self.skipTest("pkg-config is not installed")
         (found,) = self.prefix.rglob("pkgconfig")
         search = ":".join(filter(None, [str(found), os.environ.get("PKG_CONFIG_PATH", "")]))
-        flags = shlex.split(run("pkg-config", "--cflags", "--libs", "xttml", PKG_CONFIG_PATH=search))
+        environment = {**os.environ, "PKG_CONFIG_PATH": search}
+        flags = shlex.split(run("pkg-config", "--cflags", "--libs", "xttml", env=environment))
         run(CC, "-std=c99", "-D_POSIX_C_SOURCE=200809L", c_player, *flags, "-o", self.host / "c_player")
         run(self.host / "c_player")
 

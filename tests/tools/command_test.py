@@ -14,23 +14,12 @@ COMMANDS = ("list", "at", "play", "extract", "convert", "render", "timeline", "s
 
 class Usage(unittest.TestCase):
     def test_wrong_usage_ends_with_2_and_says_why(self):
-        for arguments in (
-            [],
-            ["show", FORCED],
-            ["list"],
-            ["--json"],
-            ["play", FORCED, "more"],
-            ["play", FORCED, "--full"],
-            ["list", FORCED, "--offset"],
-            ["list", FORCED, "--offset", "1.5"],
-            ["list", FORCED, "--combine"],
-            ["at", FORCED],
-            ["at", FORCED, "soon"],
-            ["at", FORCED, "1000", "-5"],
-            ["play", FORCED, "--from", "x"],
-            ["play", FORCED, "--step", "0"],
-            ["play", FORCED, "--from", "2s", "--to", "1s"],
+        for words in (
+            "", "show FILM", "list", "--json", "play FILM more", "play FILM --full", "list FILM --offset",
+            "list FILM --offset 1.5", "list FILM --combine", "at FILM", "at FILM soon", "at FILM 1000 -5",
+            "play FILM --from x", "play FILM --step 0", "play FILM --from 2s --to 1s",
         ):
+            arguments = [FORCED if word == "FILM" else word for word in words.split()]
             with self.subTest(arguments):
                 done = run(*arguments)
                 self.assertEqual((done.returncode, done.stdout), (WRONG_USAGE, b""))
