@@ -136,25 +136,23 @@ TEST(CoreTypes, NumbersBetweenTypes) {
                 CoreTypes::CastToBool(INT64_LOWEST));
     EXPECT_FALSE(CoreTypes::CastToBool(-0.0) || CoreTypes::CastToBool(0ULL));
 
-    const auto thrown = [](auto action) { return ThrownMessage<OutOfRangeException>(action); };
-    EXPECT_EQ(thrown([] { CoreTypes::CastToInt(2147483648U); }),
-              CannotConvert("2147483648", "unsignedInt", "int"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToUInt(-1); }), CannotConvert("-1", "int", "unsignedInt"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToInt(INT64_LOWEST); }),
-              CannotConvert("-9223372036854775808", "long", "int"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToUInt(4294967296LL); }),
-              CannotConvert("4294967296", "long", "unsignedInt"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToUInt64(-1LL); }), CannotConvert("-1", "long", "unsignedLong"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToInt64(9223372036854775808ULL); }),
-              CannotConvert("9223372036854775808", "unsignedLong", "long"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToInt(2147483648.0); }),
-              CannotConvert("2147483648", "double", "int"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToUInt(-0.5); }), CannotConvert("-0.5", "double", "unsignedInt"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToInt64(9223372036854775808.0); }),
-              CannotConvert("9223372036854780000", "double", "long"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToUInt64(18446744073709551616.0); }),
-              CannotConvert("18446744073709600000", "double", "unsignedLong"));
-    EXPECT_EQ(thrown([] { CoreTypes::CastToInt(std::nan("")); }), CannotConvert("NaN", "double", "int"));
+    const auto expectRefused = [](auto action, const char* value, const char* source, const char* target) {
+        EXPECT_EQ(ThrownMessage<OutOfRangeException>(action), CannotConvert(value, source, target));
+    };
+    expectRefused([] { CoreTypes::CastToInt(2147483648U); }, "2147483648", "unsignedInt", "int");
+    expectRefused([] { CoreTypes::CastToUInt(-1); }, "-1", "int", "unsignedInt");
+    expectRefused([] { CoreTypes::CastToInt(INT64_LOWEST); }, "-9223372036854775808", "long", "int");
+    expectRefused([] { CoreTypes::CastToUInt(4294967296LL); }, "4294967296", "long", "unsignedInt");
+    expectRefused([] { CoreTypes::CastToUInt64(-1LL); }, "-1", "long", "unsignedLong");
+    expectRefused([] { CoreTypes::CastToInt64(9223372036854775808ULL); }, "9223372036854775808",
+                  "unsignedLong", "long");
+    expectRefused([] { CoreTypes::CastToInt(2147483648.0); }, "2147483648", "double", "int");
+    expectRefused([] { CoreTypes::CastToUInt(-0.5); }, "-0.5", "double", "unsignedInt");
+    expectRefused([] { CoreTypes::CastToInt64(9223372036854775808.0); }, "9223372036854780000", "double",
+                  "long");
+    expectRefused([] { CoreTypes::CastToUInt64(18446744073709551616.0); }, "18446744073709600000", "double",
+                  "unsignedLong");
+    expectRefused([] { CoreTypes::CastToInt(std::nan("")); }, "NaN", "double", "int");
 }
 
 TEST(CoreTypes, OtherNumbersArePromoted) {

@@ -23,12 +23,6 @@ std::string Print(const DateTime& value) {
     return CoreTypes::CastToString(value);
 }
 
-DateTime RandomDateTime(std::mt19937_64& generator) {
-    const auto zone = static_cast<std::int16_t>(static_cast<int>(generator() % 1681) - 840);
-    return DateTime(static_cast<std::int64_t>(generator()),
-                    generator() % 2 == 0 ? DateTime::NO_TIMEZONE : zone);
-}
-
 } // namespace
 
 TEST(DateTimes, AreMadeOfFieldsInRange) {
@@ -244,7 +238,9 @@ TEST(DateTimes, CountDaysAndWeeks) {
 TEST(DateTimes, GoOutAndComeBackOverTheWholeRange) {
     std::mt19937_64 generator(11);
     for (int i = 0; i < 20000; ++i) {
-        const DateTime value = RandomDateTime(generator);
+        const auto zone = static_cast<std::int16_t>(i % 1681 - 840);
+        const DateTime value(static_cast<std::int64_t>(generator()),
+                             i % 2 == 0 ? DateTime::NO_TIMEZONE : zone);
         const DateTime back = Read(Print(value));
         ASSERT_EQ(back.Value(), value.Value()) << Print(value);
         ASSERT_EQ(back.Timezone(), value.Timezone()) << Print(value);

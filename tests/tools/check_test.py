@@ -8,21 +8,12 @@ import subprocess
 import time
 import unittest
 
-from tool_runs import DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, ToolTest, json_of, lines_of, main, run
+from tool_runs import DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, ToolTest, json_of, lines_of, main, run, tt
 
-ROOT_TAG = ('<tt xmlns="http://www.w3.org/ns/ttml" xmlns:tts="http://www.w3.org/ns/ttml#styling" '
-            'xmlns:ttp="http://www.w3.org/ns/ttml#parameter" xmlns:cff="http://www.decellc.org/schema/2012/01/cff-tt-meta" '
-            'xmlns:smpte="http://www.smpte-ra.org/schemas/2052-1/2010/smpte-tt" '
-            'xmlns:itts="http://www.w3.org/ns/ttml/profile/imsc1#styling"%s>')
 GOOD = '<p begin="1s" end="2s">x</p>'
 PICTURE = '<div %ssmpte:backgroundImage="urn:dece:container:subtitleimageindex:%s.png"/>'
 BLOCK = EXAMPLES / "pictures.en.pngs"  # four pictures
 TIMED = 'begin="1s" end="2s" '
-
-
-def tt(body, styling="", layout="", root=""):
-    head = f"<head><styling>{styling}</styling><layout>{layout}</layout></head>"
-    return (ROOT_TAG % root + head + f"<body>{body}</body></tt>").encode()
 
 
 def p(content="x", attributes="", times=TIMED):
@@ -159,12 +150,12 @@ TIMES = [
 class Findings(unittest.TestCase):
     def test_text(self):
         for data, expected in TEXT:
-            with self.subTest(data[len(ROOT_TAG) - 2:]):
+            with self.subTest(data):
                 self.assertEqual(findings(data), expected)
 
     def test_pictures(self):
         for data, expected in PICTURES:
-            with self.subTest(data[len(ROOT_TAG) - 2:]):
+            with self.subTest(data):
                 self.assertEqual(findings(data, "--images", BLOCK), expected)
 
     def test_pictures_that_cannot_be_shown_are_told_with_the_reason(self):

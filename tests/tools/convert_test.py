@@ -2,7 +2,7 @@
 
 import unittest
 
-from tool_runs import DONE, EXAMPLES, FAILED, HEAD, WRONG_USAGE, ToolTest, document, main, output_of, run
+from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, ToolTest, document, main, output_of, run, tt
 
 FORMATS = ("srt", "vtt", "ass", "txt")
 ROOT_EXTENT = ' tts:extent="1280px 720px"'
@@ -73,9 +73,8 @@ def cue_text(data, target):
 
 
 def in_region(attributes, content="a"):
-    head = f"<head><layout><region xml:id='r' {attributes}/></layout></head><body>"
-    body = f"<p region='r' begin='1s' end='2s'>{content}</p></div></body></tt>"
-    return (HEAD % ROOT_EXTENT).replace("<body>", head).encode() + body.encode()
+    return tt(f"<div><p region='r' begin='1s' end='2s'>{content}</p></div>", layout=f"<region xml:id='r' {attributes}/>",
+              root=ROOT_EXTENT)
 
 
 class Cues(unittest.TestCase):

@@ -1,23 +1,16 @@
 """Image subtitles: what the commands show of them, and the pictures that extract writes."""
 
-from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, ToolTest, json_of, lines_of, main, run
+from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, ToolTest, json_of, lines_of, main, run, tt
 
 DOCUMENT = EXAMPLES / "pictures.en.ttml"
 BLOCK = EXAMPLES / "pictures.en.pngs"
 SIGNATURE = b"\x89PNG"
-
-IMAGES = (
-    '<tt xmlns="http://www.w3.org/ns/ttml" xmlns:smpte="http://www.smpte-ra.org/schemas/2052-1/2010/smpte-tt">'
-    "<body>%s</body></tt>"
-)
+PICTURES = [SIGNATURE + rest for rest in BLOCK.read_bytes().split(SIGNATURE)[1:]]
 
 
 def division(begin, index):
     """A division with the image of an index."""
     return f'<div begin="{begin}" end="9s" smpte:backgroundImage="urn:dece:container:subtitleimageindex:{index}.png"/>'
-
-
-PICTURES = [SIGNATURE + rest for rest in BLOCK.read_bytes().split(SIGNATURE)[1:]]
 
 
 class Images(ToolTest):
@@ -40,7 +33,7 @@ class Images(ToolTest):
         divisions = [division("1s", 1), division("2s", 31), division("3s", 2), f"<div>{division('4s', 3)}</div>"]
         names = [f'<div xml:id="{i}" region="r{i}" ' for i in range(4)]
         divisions = [d[::-1].replace("<div "[::-1], name[::-1], 1)[::-1] for d, name in zip(divisions, names)]
-        document = self.write("d.ttml", (IMAGES % "".join(divisions)).encode())
+        document = self.write("d.ttml", tt("".join(divisions)))
         items = json_of("list", document, "--images", BLOCK)["items"]
         self.assertEqual([(item["id"], item["region"]) for item in items], [("0", "r0"), ("2", "r2"), ("3", "r3")])
 
@@ -69,7 +62,7 @@ class Images(ToolTest):
         self.assertEqual(first.read_bytes(), PICTURES[0])
 
     def test_extract_names_equal_times_apart_and_reports_missing_data(self):
-        document = self.write("d.ttml", (IMAGES % "".join(map(division, ("1s", "1s", "2s"), (1, 2, 5)))).encode())
+        document = self.write("d.ttml", tt("".join(map(division, ("1s", "1s", "2s"), (1, 2, 5)))))
         done = run("extract", document, "--images", BLOCK, "--to", self.folder / "out", "--offset", "500", "--quiet")
         self.assertEqual(done.returncode, DONE)
         self.assertEqual(done.stderr, b"xttml: no image data for the item at 00:00:02.500\n")
@@ -77,7 +70,7 @@ class Images(ToolTest):
                          ["00-00-01.500-2.png", "00-00-01.500.png"])
 
     def test_a_block_of_no_pictures_is_shown_as_such(self):
-        document = self.write("d.ttml", (IMAGES % (division("1s", 1) + division("2s", 2))).encode())
+        document = self.write("d.ttml", tt(division("1s", 1) + division("2s", 2)))
         block = self.write("block", b"no picture")
         items = json_of("list", document, "--images", block)["items"]
         self.assertEqual(items[0]["image"], {"bytes": 10, "offset": 0, "width": None, "height": None})
@@ -87,7 +80,7 @@ class Images(ToolTest):
         empty = self.write("empty", b"")
         text = self.write("text", b"\x89PNG, not quite")
         out = self.folder / "out"
-        untimed = self.write("u.ttml", (IMAGES % division("1s", 1).replace(' end="9s"', "")).encode())
+        untimed = self.write("u.ttml", tt(division("1s", 1).replace(' end="9s"', "")))
         for code, reason, *arguments in (
             (FAILED, "none: No such file", "list", DOCUMENT, "--images", self.folder / "none"),
             (FAILED, "empty: no image data", "list", DOCUMENT, "--images", empty),

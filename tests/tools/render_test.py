@@ -4,14 +4,16 @@ import struct
 
 import png_file
 from png_file import Picture
-from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, ToolTest, document, lines_of, main, run
+from tool_runs import DONE, EXAMPLES, FAILED, WRONG_USAGE, ToolTest, document, lines_of, main, run, tt
 
-HEAD = (
-    '<tt xmlns="http://www.w3.org/ns/ttml" xmlns:tts="http://www.w3.org/ns/ttml#styling" tts:extent="%s">'
-    '<head><layout><region xml:id="box" tts:origin="20px 100px" tts:extent="80px 20px" tts:fontSize="16px"/></layout></head>'
-)
-BODY = '<body><div><p region="box" begin="1s" end="2s" tts:color="red">XX</p></div></body></tt>'
-FILM = (HEAD % "160px 120px" + BODY).encode()
+
+def film(extent):
+    """A document with a root extent, a region and a red text in it."""
+    return tt('<div><p region="box" begin="1s" end="2s" tts:color="red">XX</p></div>', root=f' tts:extent="{extent}"',
+              layout='<region xml:id="box" tts:origin="20px 100px" tts:extent="80px 20px" tts:fontSize="16px"/>')
+
+
+FILM = film("160px 120px")
 REGION = (20, 100, 100, 120)
 BLACK, RED = (0, 0, 0, 255), (255, 0, 0, 255)
 
@@ -174,7 +176,7 @@ class Failures(ToolTest):
             if frame is not None:
                 self.write(name, frame)
         cases = [(FILM, ("--over", self.folder / name), f"{name}: {why}") for name, why in zip(frames, reasons)]
-        cases += [((HEAD % extent + BODY).encode(), (), "is too large for a picture; --size")
+        cases += [(film(extent), (), "is too large for a picture; --size")
                   for extent in ("99999px 99999px", "4294967295px 1px", "1px 16385px")]
         there = self.names()
         for data, options, reason in cases:
@@ -186,8 +188,8 @@ class Failures(ToolTest):
             (FILM, ("--size", "8192x8192"), "6 columns of 8192x8192 px are too large for a picture"),
         ):
             self.assert_ends(FAILED, reason, "render", "-", "--sheet", "-", *options, data=data)
-        self.assertEqual(picture(data=(HEAD % "0px 0px" + BODY).encode()).size, (1024, 768))
-        far = (HEAD % "99999px 99999px" + BODY).encode()
+        self.assertEqual(picture(data=film("0px 0px")).size, (1024, 768))
+        far = film("99999px 99999px")
         self.assertEqual(picture("--size", "160x120", time="0", data=far).size, (160, 120))
 
 

@@ -29,11 +29,16 @@ LIBRARY_LINE = re.compile(
 # What a document's own flaws bring about on standard error beside the command's work.
 HINT = re.compile(rb"^xttml: .*not shown; see xttml check\n", re.MULTILINE)
 
-HEAD = (
-    '<?xml version="1.0" encoding="UTF-8"?><tt xmlns="http://www.w3.org/ns/ttml" '
-    'xmlns:tts="http://www.w3.org/ns/ttml#styling" xmlns:ttp="http://www.w3.org/ns/ttml#parameter" '
-    'xmlns:cff="http://www.decellc.org/schema/2012/01/cff-tt-meta"%s><body><div>'
-)
+ROOT_TAG = ('<tt xmlns="http://www.w3.org/ns/ttml" xmlns:tts="http://www.w3.org/ns/ttml#styling" '
+            'xmlns:ttp="http://www.w3.org/ns/ttml#parameter" xmlns:cff="http://www.decellc.org/schema/2012/01/cff-tt-meta" '
+            'xmlns:smpte="http://www.smpte-ra.org/schemas/2052-1/2010/smpte-tt" '
+            'xmlns:itts="http://www.w3.org/ns/ttml/profile/imsc1#styling"%s>')
+
+
+def tt(body, styling="", layout="", root=""):
+    """A document with the usual prefixes: what its body, styling and layout hold, the attributes of its root."""
+    head = f"<head><styling>{styling}</styling><layout>{layout}</layout></head>"
+    return (ROOT_TAG % root + head + f"<body>{body}</body></tt>").encode()
 
 
 def document(*paragraphs, root=""):
@@ -42,7 +47,7 @@ def document(*paragraphs, root=""):
     for begin, end, content in paragraphs:
         times = "".join(f' {name}="{value}"' for name, value in (("begin", begin), ("end", end)) if value)
         lines.append(f"<p{times}>{content}</p>")
-    return (HEAD % root + "\n".join(lines) + "</div></body></tt>").encode()
+    return tt("<div>" + "\n".join(lines) + "</div>", root=root)
 
 
 def run(*arguments, data=None, output=subprocess.PIPE, **options):
