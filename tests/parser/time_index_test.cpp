@@ -22,10 +22,9 @@ public:
     }
     /// The plain walk: the first on screen, else the first that begins later, compared as unsigned.
     std::optional<std::size_t> rWalk(std::uint32_t uTime) const {
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            if (items[i]->fgCheckTimeInfo(static_cast<int>(uTime)))
-                return i;
-        }
+        const std::vector<std::size_t> vecFound = vecOnScreen(static_cast<int>(uTime));
+        if (!vecFound.empty())
+            return vecFound.front();
         for (std::size_t i = 0; i < items.size(); ++i) {
             if (static_cast<std::uint32_t>(items[i]->iGetBeginTime()) > uTime)
                 return i;

@@ -148,15 +148,11 @@ TIMES = [
 
 
 class Findings(unittest.TestCase):
-    def test_text(self):
-        for data, expected in TEXT:
-            with self.subTest(data):
-                self.assertEqual(findings(data), expected)
-
-    def test_pictures(self):
-        for data, expected in PICTURES:
-            with self.subTest(data):
-                self.assertEqual(findings(data, "--images", BLOCK), expected)
+    def test_of_texts_and_of_pictures(self):
+        for cases, options in ((TEXT, ()), (PICTURES, ("--images", BLOCK))):
+            for data, expected in cases:
+                with self.subTest(data):
+                    self.assertEqual(findings(data, *options), expected)
 
     def test_pictures_that_cannot_be_shown_are_told_with_the_reason(self):
         done = run("check", "-", "--images", BLOCK, data=tt("\n" + PICTURE % ("", 1)))

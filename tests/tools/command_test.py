@@ -45,9 +45,6 @@ class Usage(unittest.TestCase):
             self.assertIn("Exit codes: 0", output_of(command, "--help"))
         self.assertIn("xttml at film.ttml 1500", output_of("--help"))
 
-    def test_version(self):
-        self.assertRegex(lines_of("--version")[0], r"\Axttml \d+\.\d+\.\d+\Z")
-
 
 class UnusableDocuments(ToolTest):
     def reason(self, arguments, data=b""):

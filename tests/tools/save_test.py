@@ -38,10 +38,6 @@ class Save(ToolTest):
                     self.assertEqual(lines_of("list", self.out), before)
                 self.assertEqual(run("save", HEBREW, "-o", "-", *options).stdout, saved)
 
-    def test_from_standard_input(self):
-        lines_of("save", "-", "--output", self.out, data=document(("1s", "2s", "text")))
-        self.assertEqual(lines_of("play", self.out), ["00:00:01.000  +  text", "00:00:02.001  -  text"])
-
     def test_failures(self):
         self.out.write_bytes(b"mine")
         force = (HEBREW, "--force", "-o", self.out)
