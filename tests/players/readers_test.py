@@ -27,20 +27,14 @@ DOCUMENTS = {
 }
 
 
-def visible(item):
-    """The text that a viewer sees, white space collapsed; a blank line holds a no-break space."""
-    shown = [run["text"] if run.get("lineBreak") else re.sub(r"[ \t\r\n]+", " ", run["text"]) for run in item["runs"]
-             if run.get("styling", {}).get("visibility") != "hidden"]
-    text = "".join(shown).replace("\x85", "\uFFFD")
-    return "\n".join(line.strip(" ") or "\u00a0" for line in text.strip(" \n").split("\n"))
-
-
 def expected(data, step=1):
     """(begin, end, text) of every cue, times in ms and rounded to steps of so many."""
     items = [item for item in json_of("list", "-", data=data)["items"] if 0 <= item["begin"] < item["end"]]
+    items.sort(key=lambda item: item["begin"])
+    plain = run("convert", "-", "-o", "-", "--to", "txt", data=data).stdout.decode().removesuffix("\n")
     return [
-        (*((item[time] + step // 2) // step * step for time in ("begin", "end")), visible(item))
-        for item in sorted(items, key=lambda item: item["begin"])
+        (*((item[time] + step // 2) // step * step for time in ("begin", "end")), text)
+        for item, text in zip(items, plain.split("\n\n") if items else [], strict=True)
     ]
 
 

@@ -3,7 +3,7 @@
 import re
 import unittest
 
-from tool_runs import EXAMPLES, json_of, lines_of, main, output_of
+from tool_runs import EXAMPLES, json_of, lines_of, main, output_of, tt
 
 LIGHTHOUSE = EXAMPLES / "lighthouse.en.ttml"
 YELLOW = {"text": "yellow", "rgba": [255, 255, 0, 255]}
@@ -25,7 +25,6 @@ class Examples(unittest.TestCase):
 
     def test_styling_comes_from_region_style_and_paragraph(self):
         items = json_of("list", LIGHTHOUSE, "--full")["items"]
-        self.assertTrue(items[0]["hasRegion"] and items[0]["hasStyle"])
         self.assertEqual([items[0][name] for name in ("id", "region", "style")], [None, "bottom", "speech"])
         expected = {
             "backgroundColor": {"text": "rgba(0,0,0,160)", "rgba": [0, 0, 0, 160]},
@@ -48,6 +47,11 @@ class Examples(unittest.TestCase):
         self.assertEqual(items[3]["styling"]["color"], {"text": "lime", "rgba": [0, 255, 0, 255]})
         self.assertEqual([name for name, given in styling["set"].items() if given],
                          ["color", "fontSize", "lineHeight", "textAlign"])
+
+    def test_which_of_region_and_style_there_is(self):
+        data = tt('<div><p region="r"/><p style="s"/></div>', '<style xml:id="s"/>', '<region xml:id="r"/>')
+        items = json_of("list", "-", "--full", data=data)["items"]
+        self.assertEqual([(item["hasRegion"], item["hasStyle"]) for item in items], [(True, False), (False, True)])
 
     def test_nested_spans_become_runs(self):
         runs = json_of("list", LIGHTHOUSE, "--full")["items"][2]["runs"]
