@@ -52,8 +52,9 @@ def interface_faults(files):
 
 def cycle_faults(files):
     """Files that include each other, directly or through others."""
+    graph = {file: [name for _, name in includes if name in files] for file, includes in files.items()}
     try:
-        graphlib.TopologicalSorter({file: [name for _, name in files[file] if name in files] for file in files}).prepare()
+        graphlib.TopologicalSorter(graph).prepare()
     except graphlib.CycleError as error:
         yield "cycle: " + " <- ".join(error.args[1])
 

@@ -5,8 +5,8 @@ import os
 import subprocess
 import unittest
 
-from tool_runs import (DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, ToolTest, document, environment, json_of, lines_of, main,
-                       output_of, run)
+from tool_runs import (DONE, EXAMPLES, FAILED, TOOL, WRONG_USAGE, ToolTest, document, environment, json_of, lines_of,
+                       main, output_of, run)
 
 FORCED = EXAMPLES / "forced.en.ttml"
 COMMANDS = ("list", "at", "play", "extract", "convert", "render", "timeline", "save")
@@ -80,7 +80,8 @@ class UnusableDocuments(ToolTest):
             (b"<tt>\n <body>", r"2:8: \w"),
             (b"<a/>", "no tt root element$"),
             (document(("1s", "2s", "x"), root=' ttp:frameRate="fast"'), "ttp:frameRate: 'fast'"),
-            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '), "forcedDisplayMode: 'maybe'"),
+            (document(("1s", "2s", "x")).replace(b"<p ", b'<p cff:forcedDisplayMode="maybe" '),
+             "forcedDisplayMode: 'maybe'"),
             (b'<!DOCTYPE tt SYSTEM "tt.dtd"><tt/>', r"1:\d+: A document type declaration is not allowed.*--trusted"),
         )
         for data, expected in cases:

@@ -73,8 +73,8 @@ def cue_text(data, target):
 
 
 def in_region(attributes, content="a"):
-    return tt(f"<div><p region='r' begin='1s' end='2s'>{content}</p></div>", layout=f"<region xml:id='r' {attributes}/>",
-              root=ROOT_EXTENT)
+    body = f"<div><p region='r' begin='1s' end='2s'>{content}</p></div>"
+    return tt(body, layout=f"<region xml:id='r' {attributes}/>", root=ROOT_EXTENT)
 
 
 class Cues(unittest.TestCase):

@@ -8,9 +8,10 @@ SIGNATURE = b"\x89PNG"
 PICTURES = [SIGNATURE + rest for rest in BLOCK.read_bytes().split(SIGNATURE)[1:]]
 
 
-def division(begin, index):
+def division(begin, index, names=""):
     """A division with the image of an index."""
-    return f'<div begin="{begin}" end="9s" smpte:backgroundImage="urn:dece:container:subtitleimageindex:{index}.png"/>'
+    image = f"urn:dece:container:subtitleimageindex:{index}.png"
+    return f'<div {names} begin="{begin}" end="9s" smpte:backgroundImage="{image}"/>'
 
 
 class Images(ToolTest):
@@ -30,10 +31,8 @@ class Images(ToolTest):
         self.assertEqual(lines_of("list", *images, DOCUMENT), lines_of("list", DOCUMENT, "--images", BLOCK))
 
     def test_items_carry_the_names_of_their_divisions(self):
-        divisions = [division("1s", 1), division("2s", 31), division("3s", 2), f"<div>{division('4s', 3)}</div>"]
-        names = [f'<div xml:id="{i}" region="r{i}" ' for i in range(4)]
-        divisions = [d[::-1].replace("<div "[::-1], name[::-1], 1)[::-1] for d, name in zip(divisions, names)]
-        document = self.write("d.ttml", tt("".join(divisions)))
+        *named, inner = (division(f"{i}s", image, f'xml:id="{i}" region="r{i}"') for i, image in enumerate((1, 31, 2, 3)))
+        document = self.write("d.ttml", tt("".join(named) + f"<div>{inner}</div>"))
         items = json_of("list", document, "--images", BLOCK)["items"]
         self.assertEqual([(item["id"], item["region"]) for item in items], [("0", "r0"), ("2", "r2"), ("3", "r3")])
 

@@ -85,8 +85,9 @@ class Timeline(unittest.TestCase):
 class Files(ToolTest):
     def test_both_kinds(self):
         svg, png = self.folder / "a.svg", self.folder / "a.png"
+        images = ("--images", EXAMPLES / "pictures.en.pngs")
         for file in (svg, png):
-            timeline = ("timeline", EXAMPLES / "pictures.en.ttml", "--images", EXAMPLES / "pictures.en.pngs", "-o", file)
+            timeline = ("timeline", EXAMPLES / "pictures.en.ttml", *images, "-o", file)
             output_of(*timeline)
             self.assert_ends(FAILED, "exists; --force replaces it", *timeline)
         chart = ElementTree.fromstring(svg.read_text())
