@@ -27,7 +27,7 @@ template <class Load>
 std::string Outcome(Load&& load) {
     try {
         xercesc::DOMDocument* document = load();
-        const std::string text = XercesTreeOperations::GetTextValue(document);
+        std::string text = XercesTreeOperations::GetTextValue(document);
         XercesTreeOperations::FreeDocument(document);
         return text;
     } catch (const tessera::DataSourceUnavailableException& refusal) {

@@ -60,7 +60,7 @@ private:
 
     static std::string DescribedCopy(Node& node) {
         xercesc::DOMNode* const copy = node.cloneNode(true);
-        const std::string description = Described(*copy);
+        std::string description = Described(*copy);
         copy->release();
         return description;
     }
