@@ -108,6 +108,12 @@ static void statuses(void) {
         {"<tt xmlns:s='http://www.smpte-ra.org/schemas/2052-1/2010/smpte-tt'><body><div begin='1s' "
          "s:backgroundImage='urn:dece:container:subtitleimageindex:1.png'/></body></tt>",
          X_TTML_OK, X_TTML_OK, X_TTML_BAD_VALUE, "end: Cannot read value of non-existent attribute.", 0, 0},
+        {"<tt xmlns:s='http://www.smpte-ra.org/schemas/2052-1/2010/smpte-tt' "
+         "xmlns:c='http://www.decellc.org/schema/2012/01/cff-tt-meta'><body><div><div begin='1s' end='2s' "
+         "c:forcedDisplayMode='yes' "
+         "s:backgroundImage='urn:dece:container:subtitleimageindex:1.png'/></div></body></tt>",
+         X_TTML_OK, X_TTML_OK, X_TTML_BAD_VALUE, "forcedDisplayMode: 'yes' could not be parsed as bool", 0,
+         0},
     };
     size_t i;
     for (i = 0; i < sizeof cases / sizeof *cases; ++i) {
