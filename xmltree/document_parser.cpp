@@ -72,7 +72,7 @@ void Append(DOMParentNode& parent, Child& child) {
 
 void DocumentParser::startDocument() {
     elements_ = attributes_ = {};
-    XercesDOMParser::startDocument();
+    ShortLivedParser::startDocument();
 }
 
 void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) {

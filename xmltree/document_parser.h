@@ -2,7 +2,7 @@
 #ifndef XTTML_XMLTREE_DOCUMENT_PARSER_H
 #define XTTML_XMLTREE_DOCUMENT_PARSER_H
 
-#include <xercesc/parsers/XercesDOMParser.hpp>
+#include "xmltree/parse_memory.h"
 
 #include <utility>
 #include <vector>
@@ -13,9 +13,9 @@
 /// is, again and again, and looks up every name in a pool, which takes half of a parse. Rarer nodes and
 /// documents with a type are left to it: without one there are no references to entities, so that what has
 /// children is the document or an element. Namespaces have to be on.
-class DocumentParser : public xercesc::XercesDOMParser {
+class DocumentParser : public ShortLivedParser {
 public:
-    using XercesDOMParser::XercesDOMParser;
+    using ShortLivedParser::ShortLivedParser;
 
     void startDocument() override;
     void docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) override;
@@ -36,7 +36,7 @@ private:
     Known attributes_;
 };
 #else
-using DocumentParser = xercesc::XercesDOMParser;
+using DocumentParser = ShortLivedParser;
 #endif
 
 #endif

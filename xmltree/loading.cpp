@@ -56,12 +56,8 @@ public:
 };
 
 template <class Parser, class Report, class Parse>
-DOMDocument* ParseDocument(const Report& report, FatalErrors& handler, Parse&& parse) {
-    if (!xml_library::IsInitialised()) {
-        throw DataSourceUnavailableException(
-            report.Failure("Xerces XML error while loading: The XML library is not initialised."));
-    }
-    Parser parser(nullptr, XMLPlatformUtils::fgMemoryManager);
+DOMDocument* ParseDocument(const Report& report, FatalErrors& handler, ParseMemory& memory, Parse&& parse) {
+    Parser parser(memory);
     report.Line("parser Created OK");
     report.Line("defaultHandler Created OK");
     parser.setErrorHandler(&handler);
@@ -101,10 +97,15 @@ void Tell(const LoadOptions& options, LoadFault fault) {
 
 template <class Report, class Parse>
 DOMDocument* Load(const Report& report, const LoadOptions& options, Parse&& parse) {
+    if (!xml_library::IsInitialised()) {
+        throw DataSourceUnavailableException(
+            report.Failure("Xerces XML error while loading: The XML library is not initialised."));
+    }
     FatalErrors handler;
+    ParseMemory memory; // what is caught here lies in it
     try {
-        return options.isUntrusted ? ParseDocument<UntrustedParser>(report, handler, parse)
-                                   : ParseDocument<DocumentParser>(report, handler, parse);
+        return options.isUntrusted ? ParseDocument<UntrustedParser>(report, handler, memory, parse)
+                                   : ParseDocument<DocumentParser>(report, handler, memory, parse);
     } catch (const xercesc::XMLException& error) {
         report.Line("XMLException catched");
         Tell(options, {LoadFault::UNREADABLE, Utf8(error.getMessage())});
