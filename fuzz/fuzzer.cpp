@@ -22,7 +22,7 @@ int LLVMFuzzerInitialize(int*, char***) {
 
 /// Xerces-C 3.2.4, as distributions have patched it, keeps the entity of an external subset for ever, and
 /// Fontconfig some 300 bytes.
-extern "C" XTTML_API const char* __lsan_default_suppressions(); // NOLINT(bugprone-reserved-identifier)
+extern "C" XTTML_API const char* __lsan_default_suppressions();
 const char* __lsan_default_suppressions() {
     return "leak:XMLScanner::scanProlog\nleak:libfontconfig\n";
 }

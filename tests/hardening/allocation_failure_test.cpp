@@ -90,7 +90,7 @@ XmlMemory xmlMemory;
 
 /// The XML library abandons what it holds when an allocation of its own fails. From the debug information of
 /// g++ a function is known without its class; without debug information the one inside it may be inlined.
-extern "C" XTTML_API const char* __lsan_default_suppressions(); // NOLINT(bugprone-reserved-identifier)
+extern "C" XTTML_API const char* __lsan_default_suppressions();
 const char* __lsan_default_suppressions() {
     return "leak:XmlMemory::allocate\nleak:AllocateForTheXmlLibrary\n";
 }
