@@ -8,7 +8,7 @@
 #include "tools/xttml/findings/finding_kinds.h"
 #include "tools/xttml/formats/cue_building.h"
 #include "tools/xttml/formats/format_table.h"
-#include "tools/xttml/output/json_output.h"
+#include "tools/xttml/output/detail.h"
 #include "tools/xttml/output/output_file.h"
 #include "tools/xttml/pictures/picture_look.h"
 

@@ -4,6 +4,7 @@
 #include "tools/xttml/document/shown_content.h"
 #include "tools/xttml/document/unusable_file.h"
 #include "tools/xttml/findings/findings.h"
+#include "tools/xttml/output/json_output.h"
 #include "tools/xttml/text/text_encoding.h"
 
 #include <fmt/format.h>

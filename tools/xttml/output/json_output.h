@@ -3,6 +3,7 @@
 #define XTTML_TOOLS_XTTML_OUTPUT_JSON_OUTPUT_H
 
 #include "tools/xttml/document/item_origins.h"
+#include "tools/xttml/output/detail.h"
 #include "tools/xttml/output/styling_json.h"
 
 #include <string>
@@ -10,12 +11,6 @@
 #include <vector>
 
 namespace xttml {
-
-/// How much of an item is told.
-enum class Detail {
-    ESSENTIAL, ///< without what the library does not use, what is false and what a run has as its item has it
-    FULL       ///< every field of the item, of its records and of its runs
-};
 
 /// The items of a sequence as JSON. Text and no Json value: a film has thousands of them.
 class JsonItems {
