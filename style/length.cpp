@@ -4,6 +4,7 @@
 #include "runtime/progress_lines.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace {
@@ -77,10 +78,8 @@ bool fgTakeWhiteSpace(std::string_view& strRest) {
 float fNarrow(double fValue) {
     constexpr double fLargest = std::numeric_limits<float>::max();
     constexpr double fInfinite = 0x1.ffffffp127; // half a step beyond the largest float
-    if (fValue >= fInfinite)
-        return std::numeric_limits<float>::infinity();
-    if (fValue <= -fInfinite)
-        return -std::numeric_limits<float>::infinity();
+    if (std::abs(fValue) >= fInfinite)
+        return static_cast<float>(std::copysign(std::numeric_limits<double>::infinity(), fValue));
     return static_cast<float>(std::clamp(fValue, -fLargest, fLargest));
 }
 
