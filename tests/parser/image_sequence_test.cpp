@@ -167,6 +167,7 @@ TEST_F(ImageSequence, NeedsABodyADivisionAndABlock) {
     vGenerate(strDivision("1.png", "begin='0s' end='1s'"), "", "tts:extent='5px 5px'");
     EXPECT_EQ(strOutput, "");
     EXPECT_EQ(parser.iGetExtentWidth(), 0);
+    EXPECT_EQ(parser.iGetExtentHeight(), 0);
     EXPECT_EQ(parser.iGetDocumentEndTime(), -1);
     EXPECT_TRUE(parser.vecGetDisplaySequence().empty());
     vHandOver(strPng(10));

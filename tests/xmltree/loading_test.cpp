@@ -51,12 +51,13 @@ TEST(Loading, FromAFileReportsEveryStep) {
         const char* lastSteps;
         const char* outcome; // its beginning, after the path where there is no document
         LoadFault::Kind fault;
+        std::uint64_t line; // of the fault; 0: none is known
     } cases[] = {
-        {NAMESPACED, "parse OK\nadoptDocument OK\n", "urn:tt tt", LoadFault::NONE},
-        {"<tt>", "SAXException catched\n", ": Xerces SAX error while loading: ", LoadFault::MALFORMED},
+        {NAMESPACED, "parse OK\nadoptDocument OK\n", "urn:tt tt", LoadFault::NONE, 0},
+        {"<tt>", "SAXException catched\n", ": Xerces SAX error while loading: ", LoadFault::MALFORMED, 1},
 #if _XERCES_VERSION >= 30200 // before, this was a fault like others
         {"<?xml version='1.4'?><!DOCTYPE tt [<!ENTITY e 'text'><!ELEMENT ", "DOMException catched\n",
-         ": Xerces DOM error while loading", LoadFault::MALFORMED},
+         ": Xerces DOM error while loading", LoadFault::MALFORMED, 0},
 #endif
     };
     for (const auto& test : cases) {
@@ -67,6 +68,7 @@ TEST(Loading, FromAFileReportsEveryStep) {
         EXPECT_EQ(CapturedOutput([&] { outcome = Outcome(load); }),
                   std::string(STEPS_BEFORE_PARSING) + test.lastSteps);
         EXPECT_EQ(fault.kind, test.fault);
+        EXPECT_EQ(fault.line, test.line);
         EXPECT_EQ(outcome.find((test.outcome[0] == ':' ? file.path : "") + test.outcome), 0U) << outcome;
     }
     std::string outcome;
