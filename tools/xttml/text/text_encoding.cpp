@@ -18,6 +18,15 @@ bool IsLowSurrogate(char16_t unit) {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
+/// The beginning of a text that needs no conversion: all of most texts. It has room for the rest.
+template <class Unit>
+std::string AsciiBeginning(std::basic_string_view<Unit> text) {
+    const auto end = std::find_if(text.begin(), text.end(), [](Unit unit) { return (unit & ~0x7F) != 0; });
+    std::string beginning(text.begin(), end);
+    beginning.reserve(text.size());
+    return beginning;
+}
+
 void AppendCodePoint(std::string& target, char32_t codePoint) {
     const auto append = [&target](char32_t byte) { target.push_back(static_cast<char>(byte)); };
     const auto appendTail = [&append, codePoint](int shift) {
@@ -56,8 +65,18 @@ bool MayBeginControl(unsigned char byte) {
     return byte < 0x20 || byte == 0x7F || byte == 0xC2;
 }
 
+/// Whether any byte of a text may begin one. No byte ends the loop, so that compilers take many at once.
+bool MayHoldControl(std::string_view text) {
+    unsigned char mayHold = 0;
+    for (const char character : text)
+        mayHold = std::max<unsigned char>(mayHold, MayBeginControl(static_cast<unsigned char>(character)));
+    return mayHold != 0;
+}
+
 /// The position of the first control character; the end of a text without one.
 std::size_t FindControl(std::string_view text) {
+    if (!MayHoldControl(text))
+        return text.size();
     std::size_t position = 0;
     while (position < text.size() && (!MayBeginControl(static_cast<unsigned char>(text[position])) ||
                                       ControlAt(text, position) == noControl))
@@ -80,9 +99,8 @@ bool BeginsCodePoint(char byte) {
 } // namespace
 
 std::string Utf8FromUtf16(std::u16string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t position = 0; position < text.size();)
+    std::string result = AsciiBeginning(text);
+    for (std::size_t position = result.size(); position < text.size();)
         AppendCodePoint(result, TakeCodePoint(text, position));
     return result;
 }
@@ -96,9 +114,8 @@ std::string Utf8Beginning(std::u16string_view text) {
 }
 
 std::string Utf8FromLatin1(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    for (const char character : text)
+    std::string result = AsciiBeginning(text);
+    for (const char character : text.substr(result.size()))
         AppendCodePoint(result, static_cast<unsigned char>(character));
     return result;
 }
@@ -111,19 +128,22 @@ char32_t ControlAt(std::string_view text, std::size_t position) {
     return byte == 0xC2 && next >= 0x80 && next <= 0x9F ? next : noControl;
 }
 
-std::string OnOneLine(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    while (!text.empty()) {
+void AppendOnOneLine(std::string& line, std::string_view text) {
+    for (;;) {
         const std::size_t control = FindControl(text);
-        result += text.substr(0, control);
+        line += text.substr(0, control);
         text.remove_prefix(control);
         if (text.empty())
-            break;
-        AppendCodePoint(result, PictureOf(ControlAt(text, 0)));
+            return;
+        AppendCodePoint(line, PictureOf(ControlAt(text, 0)));
         text.remove_prefix(BytesOfControl(ControlAt(text, 0)));
     }
-    return result;
+}
+
+std::string OnOneLine(std::string_view text) {
+    std::string line;
+    AppendOnOneLine(line, text);
+    return line;
 }
 
 std::string Shortened(std::string_view text, std::size_t codePoints) {

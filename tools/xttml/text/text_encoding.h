@@ -32,6 +32,9 @@ constexpr std::size_t BytesOfControl(char32_t control) {
 /// ASCII as its control picture (U+2400 and up), those of ISO 8859-1 as U+FFFD.
 std::string OnOneLine(std::string_view text);
 
+/// Adds the same to a line.
+void AppendOnOneLine(std::string& line, std::string_view text);
+
 /// The first code points of a valid UTF-8 text, and an ellipsis in place of the others.
 std::string Shortened(std::string_view text, std::size_t codePoints);
 
