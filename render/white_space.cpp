@@ -13,6 +13,21 @@ bool IsWhiteSpace(char character) {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
+/// Whether a text is words with one space between them and no control character. No character ends the loop,
+/// so that compilers take many at once.
+bool IsCollapsed(std::string_view text) {
+    const auto at = [text](std::size_t position) { return static_cast<unsigned char>(text[position]); };
+    if (text.empty() || at(0) <= ' ' || at(text.size() - 1) <= ' ')
+        return false;
+    unsigned char least = at(0);
+    unsigned char leastOfPairs = at(0); // a pair counts as the greater of the two
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        least = std::min(least, at(i));
+        leastOfPairs = std::min(leastOfPairs, std::max(at(i - 1), at(i)));
+    }
+    return least >= ' ' && leastOfPairs > ' ';
+}
+
 /// Where words end that have one space between them.
 std::string::const_iterator EndOfWords(std::string::const_iterator words, std::string::const_iterator end) {
     for (; words != end; ++words) {
@@ -28,6 +43,10 @@ std::string::const_iterator EndOfWords(std::string::const_iterator words, std::s
 class Collapser {
 public:
     void Piece(TextPiece& piece) {
+        if (IsCollapsed(piece.text)) {
+            BeginWords();
+            return;
+        }
         const std::string text = std::exchange(piece.text, {});
         for (auto rest = text.begin(); rest != text.end();) {
             const auto word = std::find_if_not(rest, text.end(), IsWhiteSpace);
@@ -42,9 +61,12 @@ public:
 
 private:
     void Words(std::string& text, std::string_view words) {
+        BeginWords();
+        text += words;
+    }
+    void BeginWords() {
         if (std::string* const owner = std::exchange(spaceOwner_, nullptr))
             owner->push_back(' ');
-        text += words;
         isInsideLine_ = true;
     }
 
@@ -52,12 +74,18 @@ private:
     bool isInsideLine_ = false;
 };
 
+std::string ReadText(const DisplayItem* item, std::uint32_t run) {
+    char buffer[256]; // most texts are shorter
+    const std::size_t size = x_ttml_run_get_text(item, run, buffer, sizeof buffer);
+    if (size < sizeof buffer)
+        return {buffer, size};
+    std::string text(size, '\0');
+    x_ttml_run_get_text(item, run, text.data(), size + 1);
+    return text;
+}
+
 TextPiece ReadPiece(const DisplayItem* item, std::uint32_t run) {
-    TextPiece piece;
-    piece.text.resize(x_ttml_run_get_text(item, run, nullptr, 0));
-    x_ttml_run_get_text(item, run, piece.text.data(), piece.text.size() + 1);
-    piece.isLineBreak = x_ttml_run_is_line_break(item, run) != 0;
-    return piece;
+    return {ReadText(item, run), x_ttml_run_is_line_break(item, run) != 0};
 }
 
 } // namespace

@@ -28,6 +28,9 @@ std::string Handled(const std::string& text, WhiteSpace whiteSpace) {
 TEST(WhiteSpace, IsCollapsed) {
     const std::pair<const char*, const char*> cases[] = {
         {"plain text", "plain text"},
+        {"two  spaces", "two spaces"},
+        {"a\ttab", "a tab"},
+        {"space | before", "space |before"},
         {"\n   indented\n   twice\t\r\n ", "indented twice"},
         {"first \n / \t second ", "first|/|second"},
         {"one | two|three ", "one |two|three"}, // the space is the first piece's
@@ -55,6 +58,14 @@ TEST(WhiteSpace, OfAnItemIsReadRunByRun) {
     EXPECT_EQ(text, "[one ][two][][\n][x\U0001F600]");
     EXPECT_TRUE(pieces[3].isLineBreak);
     EXPECT_TRUE(ReadPieces(nullptr, WhiteSpace::COLLAPSED).empty());
+}
+
+TEST(WhiteSpace, OfARunOfAnyLengthIsRead) {
+    for (const std::size_t length : {255U, 256U, 1000U}) {
+        const std::string word(length, 'x');
+        const Player player(Paragraph("", word));
+        EXPECT_EQ(ReadPieces(player.ItemsAt(1000).front(), WhiteSpace::COLLAPSED).front().text, word);
+    }
 }
 
 TEST(WhiteSpace, OfTheSourceIsNotDrawn) {
