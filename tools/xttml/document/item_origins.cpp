@@ -17,52 +17,50 @@ std::optional<std::string> AttributeOf(const xercesc::DOMNode* element, const ch
                                        const char* name) {
     const xercesc::DOMNode* const attribute =
         XercesTreeOperations::FindAttribute(element, namespaceUri, name);
-    return attribute ? std::optional(Utf8FromUtf16(Units(attribute->getNodeValue()))) : std::nullopt;
+    return attribute ? std::optional(Utf8FromUtf16(ValueOf(*attribute))) : std::nullopt;
 }
 
-/// What xml:space says of elements; those with one parent come one after the other.
-class SpaceReader {
-public:
-    bool Preserves(const xercesc::DOMNode* element) {
-        if (const auto space = AttributeOf(element, xmlNamespace, "space"))
-            return *space == "preserve";
-        const xercesc::DOMNode* const parent = element->getParentNode();
-        if (std::exchange(parent_, parent) != parent)
-            parentPreserves_ = Inherits(parent);
-        return parentPreserves_;
-    }
+/// What xml:space says; nothing when it is not there.
+std::optional<bool> PreservesSpaceItself(const xercesc::DOMNode* element) {
+    const xercesc::DOMNode* const space = XercesTreeOperations::FindAttribute(element, xmlNamespace, "space");
+    return space ? std::optional(ValueOf(*space) == u"preserve") : std::nullopt;
+}
 
-private:
-    static bool Inherits(const xercesc::DOMNode* element) {
-        for (; element; element = element->getParentNode())
-            if (const auto space = AttributeOf(element, xmlNamespace, "space"))
-                return *space == "preserve";
-        return false;
-    }
-
-    const xercesc::DOMNode* parent_ = nullptr;
-    bool parentPreserves_ = false;
-};
-
-ItemOrigin OriginOf(const xercesc::DOMNode* element, SpaceReader& space) {
-    return {AttributeOf(element, xmlNamespace, "id"), AttributeOf(element, noNamespace, "region"),
-            AttributeOf(element, noNamespace, "style"), space.Preserves(element)};
+bool InheritsSpace(const xercesc::DOMNode* element) {
+    for (; element; element = element->getParentNode())
+        if (const auto preserves = PreservesSpaceItself(element))
+            return *preserves;
+    return false;
 }
 
 } // namespace
 
 ItemOrigins::ItemOrigins(const DocumentModel& model, const DisplaySequence& sequence) {
     const std::vector<const xercesc::DOMNode*> elements = ItemElements(model.Root(), sequence);
-    SpaceReader space;
-    origins_.reserve(elements.size());
+    elements_.reserve(elements.size());
     for (std::size_t i = 0; i < elements.size(); ++i)
-        origins_.emplace(sequence.Items()[i], OriginOf(elements[i], space));
+        elements_.emplace(sequence.Items()[i], elements[i]);
 }
 
-const ItemOrigin& ItemOrigins::Of(const DisplayItem& item) const {
-    static const ItemOrigin unknown;
-    const auto found = origins_.find(&item);
-    return found == origins_.end() ? unknown : found->second;
+ItemOrigin ItemOrigins::Of(const DisplayItem& item) const {
+    const xercesc::DOMNode* const element = ElementOf(item);
+    return {AttributeOf(element, xmlNamespace, "id"), AttributeOf(element, noNamespace, "region"),
+            AttributeOf(element, noNamespace, "style")};
+}
+
+bool ItemOrigins::PreservesSpace(const DisplayItem& item) const {
+    const xercesc::DOMNode* const element = ElementOf(item);
+    if (const auto preserves = PreservesSpaceItself(element))
+        return *preserves;
+    const xercesc::DOMNode* const parent = element ? element->getParentNode() : nullptr;
+    if (std::exchange(parent_, parent) != parent)
+        parentPreserves_ = InheritsSpace(parent);
+    return parentPreserves_;
+}
+
+const xercesc::DOMNode* ItemOrigins::ElementOf(const DisplayItem& item) const {
+    const auto found = elements_.find(&item);
+    return found == elements_.end() ? nullptr : found->second;
 }
 
 } // namespace xttml

@@ -17,10 +17,9 @@ struct ItemOrigin {
     std::optional<std::string> id;     ///< xml:id
     std::optional<std::string> region; ///< as written, whether there is such a region or not
     std::optional<std::string> style;  ///< likewise
-    bool preservesSpace = false;       ///< xml:space is "preserve", here or from an element around it
 };
 
-/// The origins of the items of a sequence.
+/// The origins of the items of a sequence, which lives as long as they are asked for.
 class ItemOrigins {
 public:
     /// Of no items.
@@ -29,10 +28,18 @@ public:
     ItemOrigins(const DocumentModel& model, const DisplaySequence& sequence);
 
     /// Without any name when nothing is known of the item.
-    const ItemOrigin& Of(const DisplayItem& item) const;
+    ItemOrigin Of(const DisplayItem& item) const;
+    /// Whether xml:space is "preserve" at the element of an item or else around it.
+    bool PreservesSpace(const DisplayItem& item) const;
 
 private:
-    std::unordered_map<const DisplayItem*, ItemOrigin> origins_;
+    /// Null when it is not known.
+    const xercesc::DOMNode* ElementOf(const DisplayItem& item) const;
+
+    std::unordered_map<const DisplayItem*, const xercesc::DOMNode*> elements_;
+    // What the elements of one parent inherit: they come one after the other.
+    mutable const xercesc::DOMNode* parent_ = nullptr;
+    mutable bool parentPreserves_ = false;
 };
 
 } // namespace xttml

@@ -93,7 +93,7 @@ Script BuildScript(const DisplaySequence& sequence, const ItemOrigins& origins, 
     for (const DisplayItem* const item : sequence.Items()) {
         if (selection == Selection::FORCED && !item->fgForcedDisplay)
             continue;
-        const bool preserves = origins.Of(*item).preservesSpace;
+        const bool preserves = origins.PreservesSpace(*item);
         Cue cue = BuildCue(*item, script.root, preserves ? WhiteSpace::PRESERVED : WhiteSpace::COLLAPSED);
         if (!cue.lines.empty() && SetTimes(cue, sequence.SpanOf(*item), script))
             script.cues.push_back(std::move(cue));
