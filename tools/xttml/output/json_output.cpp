@@ -84,31 +84,20 @@ std::string ArrayOf(const Things& things, Text&& textOf) {
 
 } // namespace
 
-template <class MakeJson>
-std::string JsonItems::KnownText(const StylingAttrib& styling, const StylingAttrib* base,
-                                 MakeJson&& makeJson) {
-    constexpr std::size_t mostKnown = 16;
-    const auto isAlike = [&](const KnownStyling& known) {
-        return known.base.has_value() == (base != nullptr) && AreAlike(known.styling, styling) &&
-               (!base || AreAlike(*known.base, *base));
-    };
-    const auto found = std::find_if(known_.begin(), known_.end(), isAlike);
-    if (found != known_.end())
-        return found->text;
-    if (known_.size() == mostKnown)
-        known_.clear();
-    known_.push_back({styling, base ? std::optional(*base) : std::nullopt, xttml::ToText(makeJson())});
-    return known_.back().text;
-}
-
 std::string JsonItems::StylingText(const StylingAttrib& styling) {
-    const auto makeJson = [&] { return StylingToJson(styling, detail_ == Detail::FULL); };
+    const auto make = [this](const StylingAttrib& record) {
+        return xttml::ToText(StylingToJson(record, detail_ == Detail::FULL));
+    };
     // Records that are alike may differ in what else there is.
-    return detail_ == Detail::FULL ? xttml::ToText(makeJson()) : KnownText(styling, nullptr, makeJson);
+    return detail_ == Detail::FULL ? make(styling) : stylings_.Of(styling, make);
 }
 
 std::string JsonItems::DifferenceText(const StylingAttrib& run, const StylingAttrib& item) {
-    return KnownText(run, &item, [&] { return DifferenceToJson(run, item); });
+    const auto make = [&item](const StylingAttrib& record) {
+        return xttml::ToText(DifferenceToJson(record, item));
+    };
+    const auto makeNone = [](const StylingAttrib&) { return KnownStylings<std::string>(); };
+    return differences_.Of(item, makeNone).Of(run, make);
 }
 
 std::string JsonItems::RunText(const Sentence& run, const DisplayItem& item) {

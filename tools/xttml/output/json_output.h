@@ -4,11 +4,11 @@
 
 #include "tools/xttml/document/item_origins.h"
 #include "tools/xttml/output/detail.h"
+#include "tools/xttml/output/known_stylings.h"
 #include "tools/xttml/output/styling_json.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace xttml {
 
@@ -24,24 +24,16 @@ public:
     std::string ToText(const ItemList& items);
 
 private:
-    /// A record and the JSON of it, or of what it has otherwise than another.
-    struct KnownStyling {
-        StylingAttrib styling;
-        std::optional<StylingAttrib> base;
-        std::string text;
-    };
-
     std::string RunText(const Sentence& run, const DisplayItem& item);
     std::string RunsText(const DisplayItem& item);
     std::string StylingText(const StylingAttrib& styling);
     std::string DifferenceText(const StylingAttrib& run, const StylingAttrib& item);
-    template <class MakeJson>
-    std::string KnownText(const StylingAttrib& styling, const StylingAttrib* base, MakeJson&& makeJson);
 
     const DisplaySequence& sequence_;
     const ItemOrigins& origins_;
     Detail detail_;
-    std::vector<KnownStyling> known_; // most items share a few
+    KnownStylings<std::string> stylings_;
+    KnownStylings<KnownStylings<std::string>> differences_; // by the item's styling, then by the run's
 };
 
 /// A time; -1 when it is unknown.
