@@ -205,6 +205,7 @@ TEST(UntrustedXml, BoundsTheSizeOfADocument) {
         EXPECT_EQ(TextOrRefusal(refused, {true, &fault}), TooLarge());
         EXPECT_EQ(fault.kind, LoadFault::REFUSED);
         EXPECT_EQ(fault.line, 0U);
+        EXPECT_EQ(fault.column, 0U);
     }
     const TemporaryFile largest(OfSize(MAX_BYTES));
     const TemporaryFile tooLarge(OfSize(MAX_BYTES + 1));
