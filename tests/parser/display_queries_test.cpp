@@ -113,6 +113,7 @@ TEST_F(DisplayQueries, TellTheNextChange) {
 
 TEST_F(DisplayQueries, TheArrayQueriesLeaveTheCurrentItem) {
     vMake({{0, 10}, {20, 30}});
+    EXPECT_EQ(iIndexOf(parser.rCombineSameTimeItem()), 0) << "before the first query";
     EXPECT_EQ(iAt(25), 1);
     strArrayAt(5);
     strOnScreenAt(5, 1);

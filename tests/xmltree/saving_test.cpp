@@ -89,7 +89,9 @@ TEST(Saving, FailuresLeaveNoFileButTheBytesProduced) {
     const SampleDocument deep(Nested(10000));
     const std::string tooDeep = "Xerces XML error while saving: The document is nested too deep.";
     const SampleDocument sample("<tt><!--\xE2\x82\xAC--></tt>"); // Latin-1 cannot write the comment
-    const std::string path = testing::TempDir() + "xttml_never_written.xml";
+    const TemporaryFile file;
+    const std::string& path = file.path;
+    std::remove(path.c_str());
     const std::string nowhere = testing::TempDir() + "xttml_no_such_directory/file.xml";
     Bytes data;
     const struct {
