@@ -2,26 +2,34 @@
 
 #include <xercesc/util/PlatformUtils.hpp>
 
+#include <atomic>
 #include <cstddef>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 using xercesc::XMLPlatformUtils;
 
 namespace {
 
-constexpr std::size_t blockSize = 64 << 10; // subtitles take 46 KiB of it
 constexpr std::size_t largestPiece = 4 << 10;
 constexpr std::size_t alignment = alignof(std::max_align_t);
+
+// No memory of the heap: its end would go back to the system and be fetched again with every load.
+alignas(alignment) unsigned char block[64 << 10]; // subtitles take 46 KiB
+constexpr unsigned char* blockEnd = std::end(block);
+std::atomic_flag isTaken = ATOMIC_FLAG_INIT;
 
 } // namespace
 
 ParseMemory::ParseMemory()
-    : library_(*XMLPlatformUtils::fgMemoryManager),
-      block_(static_cast<unsigned char*>(library_.allocate(blockSize))), free_(block_) {}
+    : library_(*XMLPlatformUtils::fgMemoryManager), hasBlock_(!isTaken.test_and_set()),
+      free_(hasBlock_ ? block : blockEnd) {}
 
 ParseMemory::~ParseMemory() {
-    library_.deallocate(block_);
+    if (hasBlock_) {
+        isTaken.clear();
+    }
 }
 
 xercesc::MemoryManager* ParseMemory::getExceptionMemoryManager() {
@@ -29,7 +37,7 @@ xercesc::MemoryManager* ParseMemory::getExceptionMemoryManager() {
 }
 
 void* ParseMemory::allocate(XMLSize_t size) {
-    const auto room = static_cast<std::size_t>(block_ + blockSize - free_);
+    const auto room = static_cast<std::size_t>(blockEnd - free_);
     if (size > largestPiece || size >= room) {
         return library_.allocate(size);
     }
@@ -40,7 +48,7 @@ void* ParseMemory::allocate(XMLSize_t size) {
 
 void ParseMemory::deallocate(void* piece) {
     const std::less<const void*> isBefore;
-    const bool isInBlock = !isBefore(piece, block_) && isBefore(piece, block_ + blockSize);
+    const bool isInBlock = !isBefore(piece, block) && isBefore(piece, blockEnd);
     if (!isInBlock) {
         library_.deallocate(piece);
     }

@@ -5,18 +5,20 @@
 #include <xercesc/framework/MemoryManager.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
-/// Gives a parser its small pieces of memory from one block, which goes as a whole. There are some three
-/// hundred, whatever the document: to ask for each and to return it takes a fifth of the load of a short one.
-/// What is large, or finds no room, is the XML library's. It has to outlast the parser and what that throws.
+/// Gives a parser its small pieces of memory from a block of the process, which is free again as a whole.
+/// There are some three hundred, whatever the document: to ask for each and to return it takes a quarter of
+/// the load of a short one. What is large or finds no room, and what is parsed while another parser has the
+/// block, is the XML library's. It has to outlast the parser and what that throws.
 class ParseMemory : public xercesc::MemoryManager {
 public:
-    /// Throws xercesc::OutOfMemoryException, as allocate() does. The XML library has to be initialised.
+    /// The XML library has to be initialised.
     ParseMemory();
     ~ParseMemory() override;
     ParseMemory(const ParseMemory&) = delete;
     ParseMemory& operator=(const ParseMemory&) = delete;
 
     xercesc::MemoryManager* getExceptionMemoryManager() override;
+    /// Throws xercesc::OutOfMemoryException.
     /// @param size in bytes
     void* allocate(XMLSize_t size) override;
     /// @param piece null for none
@@ -24,7 +26,7 @@ public:
 
 private:
     xercesc::MemoryManager& library_;
-    unsigned char* const block_;
+    const bool hasBlock_;
     unsigned char* free_;
 };
 

@@ -32,4 +32,18 @@ TEST(ParseMemory, PiecesAreApartInsideItsBlockAndBeyond) {
     memory.deallocate(nullptr);
 }
 
+TEST(ParseMemory, TheBlockIsOfOneParseAtATime) {
+    const XercesSession session;
+    std::vector<void*> firstPieces;
+    for (int turn = 0; turn < 2; ++turn) {
+        ParseMemory memory;
+        firstPieces.push_back(memory.allocate(1));
+        ParseMemory other;
+        void* const apart = other.allocate(1);
+        EXPECT_NE(apart, firstPieces.back());
+        other.deallocate(apart);
+    }
+    EXPECT_EQ(firstPieces[0], firstPieces[1]);
+}
+
 } // namespace
