@@ -59,7 +59,7 @@ std::vector<Comparison> Comparisons() {
         comparisons.push_back(
             {"load and generate : bare parse, " + std::to_string(paragraphs) + " paragraphs", limit,
              [count = paragraphs] { return OverBareParse(count); }, 1, 0, 1, seconds});
-    comparisons.push_back({"two paragraphs, load to delete : half a bare parse + 5 us", 1.25,
+    comparisons.push_back({"two paragraphs, load to delete : half a bare parse + 5 us", 1.3,
                            [] { return OverBareParse(2); }, 0.5, 5e-6});
     comparisons.push_back(
         {"closing and deleting : load and generate, " + std::to_string(closingSize) + " paragraphs",
