@@ -70,11 +70,6 @@ void Append(DOMParentNode& parent, Child& child) {
 
 } // namespace
 
-void DocumentParser::startDocument() {
-    elements_ = attributes_ = {};
-    ShortLivedParser::startDocument();
-}
-
 void DocumentParser::docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) {
     const bool isContinued = fCurrentNode->getNodeType() == DOMNode::TEXT_NODE;
     if (fDocumentType || isCdata || !fWithinElement || isContinued) {

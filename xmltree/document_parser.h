@@ -17,7 +17,6 @@ class DocumentParser : public ShortLivedParser {
 public:
     using ShortLivedParser::ShortLivedParser;
 
-    void startDocument() override;
     void docCharacters(const XMLCh* characters, XMLSize_t length, bool isCdata) override;
     void startElement(const xercesc::XMLElementDecl& declaration, unsigned int namespaceId,
                       const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
@@ -36,7 +35,11 @@ private:
     Known attributes_;
 };
 #else
-using DocumentParser = ShortLivedParser;
+/// With a series that links nodes its own way, all memory is the XML library's, too.
+class DocumentParser : public xercesc::XercesDOMParser {
+public:
+    explicit DocumentParser(const ParseMemory&) {}
+};
 #endif
 
 #endif

@@ -30,7 +30,7 @@ private:
     unsigned char* free_;
 };
 
-/// A parser in such memory. Its document, which outlasts it, is in the XML library's.
+/// A parser of one document, in such memory. The document, which outlasts it, is in the XML library's.
 class ShortLivedParser : public xercesc::XercesDOMParser {
 public:
     explicit ShortLivedParser(ParseMemory& memory);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
-#include <iterator>
+#include <fmt/compile.h>
 #include <limits>
 #include <tuple>
 
@@ -112,22 +112,6 @@ std::optional<WrittenTime> ParseClockTime(std::string_view text) {
     return TakeRest(text, time) ? InRange(time) : std::nullopt;
 }
 
-/// Writes a time from its last digit on. A table of a film has thousands of times.
-class TextFromBehind {
-public:
-    void Character(char character) { *--begin_ = character; }
-    /// At least so many digits.
-    void Digits(std::int64_t number, int count) {
-        for (; count > 0 || number > 0; --count, number /= 10)
-            Character(static_cast<char>('0' + number % 10));
-    }
-    std::string Whole() { return {begin_, std::end(text_)}; }
-
-private:
-    char text_[40]; // hours have 13 digits at most
-    char* begin_ = std::end(text_);
-};
-
 } // namespace
 
 bool IsBefore(const WrittenTime& left, const WrittenTime& right) {
@@ -151,17 +135,11 @@ std::string FormatTime(std::optional<MediaTime> time) {
     if (!time)
         return "-";
     const MediaTime distance = *time < 0 ? -*time : *time;
-    TextFromBehind text;
-    text.Digits(distance % second, 3);
-    text.Character('.');
-    text.Digits(distance / second % 60, 2);
-    text.Character(':');
-    text.Digits(distance / minute % 60, 2);
-    text.Character(':');
-    text.Digits(distance / hour, 2);
-    if (*time < 0)
-        text.Character('-');
-    return text.Whole();
+    char text[40]; // hours have 13 digits at most
+    char* const end =
+        fmt::format_to(text, FMT_COMPILE("{}{:02}:{:02}:{:02}.{:03}"), *time < 0 ? "-" : "", distance / hour,
+                       distance / minute % 60, distance / second % 60, distance % second);
+    return {text, end};
 }
 
 std::string TimeInFileName(std::optional<MediaTime> time) {
